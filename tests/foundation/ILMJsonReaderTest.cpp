@@ -1,0 +1,77 @@
+#include "ILMJsonReader.h"
+#include "ILMJsonWriter.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Lumeran;
+
+namespace {
+
+std::string WriteFile(const QTemporaryDir& dir, const QString& name, const QByteArray& data) {
+    QFile file(dir.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(data);
+    return file.fileName().toStdString();
+}
+
+} // namespace
+
+TEST(ILMJsonReaderTest, ReadsAnObject) {
+    auto json = ILMJsonReader::ReadJsonString(R"({"title":"MP4","n":3})", nullptr);
+    ASSERT_TRUE(json);
+    EXPECT_EQ(json->Value().toObject().value(QStringLiteral("title")).toString(), QStringLiteral("MP4"));
+}
+
+TEST(ILMJsonReaderTest, ReadsAFile) {
+    QTemporaryDir dir;
+    const auto path = WriteFile(dir, QStringLiteral("a.json"), R"([1,2,3])");
+    auto json = ILMJsonReader::ReadJsonFile(path, nullptr);
+    ASSERT_TRUE(json);
+    EXPECT_EQ(json->Value().toArray().size(), 3);
+}
+
+TEST(ILMJsonReaderTest, InvalidTextGivesEmptyPointerAndError) {
+    std::shared_ptr<const ILMError> error;
+    EXPECT_FALSE(ILMJsonReader::ReadJsonString(R"({"title":)", &error));
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->ErrorCode(), ILMError::ParseError);
+    EXPECT_FALSE(ILMJsonReader::ReadJsonString("", nullptr));
+    EXPECT_FALSE(ILMJsonReader::ReadJsonString("42", nullptr));
+    EXPECT_FALSE(ILMJsonReader::ReadJsonString("\"just a string\"", nullptr));
+}
+
+TEST(ILMJsonReaderTest, InvalidUtf8GivesEmptyPointer) {
+    EXPECT_FALSE(ILMJsonReader::ReadJsonString("{\"title\":\"\xff\xfe\"}", nullptr));
+}
+
+TEST(ILMJsonReaderTest, DeepNestingGivesEmptyPointer) {
+    const std::string deep = std::string(10000, '[') + std::string(10000, ']');
+    EXPECT_FALSE(ILMJsonReader::ReadJsonString(deep, nullptr));
+}
+
+TEST(ILMJsonReaderTest, MissingFileEmptyFileAndDirectoryGiveEmptyPointer) {
+    QTemporaryDir dir;
+    std::shared_ptr<const ILMError> error;
+    EXPECT_FALSE(ILMJsonReader::ReadJsonFile(dir.filePath(QStringLiteral("none.json")).toStdString(), &error));
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->ErrorCode(), ILMError::FileError);
+    EXPECT_FALSE(ILMJsonReader::ReadJsonFile(dir.path().toStdString(), nullptr));
+    EXPECT_FALSE(ILMJsonReader::ReadJsonFile(WriteFile(dir, QStringLiteral("empty.json"), {}), nullptr));
+    const auto truncated = WriteFile(dir, QStringLiteral("t.json"), R"({"children":[{"title":"A")");
+    EXPECT_FALSE(ILMJsonReader::ReadJsonFile(truncated, nullptr));
+}
+
+TEST(ILMJsonReaderTest, LargeStringIsReadWithoutCrashing) {
+    std::string text = "{\"title\":\"";
+    text.append(50 * 1024 * 1024, 'x');
+    text += "\"}";
+    auto json = ILMJsonReader::ReadJsonString(text, nullptr);
+    ASSERT_TRUE(json);
+    EXPECT_EQ(json->Value().toObject().value(QStringLiteral("title")).toString().size(), 50 * 1024 * 1024);
+}
