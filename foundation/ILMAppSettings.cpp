@@ -61,8 +61,12 @@ std::shared_ptr<LMAppSettings>& Instance() {
 
 } // namespace
 
-std::shared_ptr<ILMAppSettings> ILMAppSettings::Shared() { return Instance(); }
+std::shared_ptr<ILMAppSettings> ILMAppSettings::Shared() {
+    return Instance();
+}
 
-void ILMAppSettings::UseSettingsFile(const std::string& iniPath) { Instance()->Redirect(iniPath); }
+void ILMAppSettings::UseSettingsFile(const std::string& iniPath) {
+    Instance()->Redirect(iniPath);
+}
 
 } // namespace Lumeran

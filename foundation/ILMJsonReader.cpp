@@ -30,8 +30,8 @@ std::shared_ptr<const ILMJsonValue> Parse(const QByteArray& text,
 
 } // namespace
 
-std::shared_ptr<const ILMJsonValue> ILMJsonReader::ReadJsonFile(const std::string& path,
-                                                                std::shared_ptr<const ILMError>* error) {
+std::shared_ptr<const ILMJsonValue>
+ILMJsonReader::ReadJsonFile(const std::string& path, std::shared_ptr<const ILMError>* error) {
     const QString fileName = QString::fromStdString(path);
     const QFileInfo info(fileName);
     if (!info.exists() || info.isDir()) {
@@ -51,8 +51,8 @@ std::shared_ptr<const ILMJsonValue> ILMJsonReader::ReadJsonFile(const std::strin
     return Parse(file.readAll(), error);
 }
 
-std::shared_ptr<const ILMJsonValue> ILMJsonReader::ReadJsonString(const std::string& text,
-                                                                  std::shared_ptr<const ILMError>* error) {
+std::shared_ptr<const ILMJsonValue>
+ILMJsonReader::ReadJsonString(const std::string& text, std::shared_ptr<const ILMError>* error) {
     if (static_cast<std::int64_t>(text.size()) > MaxFileSize) {
         ILMError::Report(error, ILMError::LimitError, "text too large");
         return {};

@@ -20,8 +20,8 @@ public:
 
     static std::shared_ptr<const ILMJsonValue> ReadJsonFile(const std::string& path,
                                                             std::shared_ptr<const ILMError>* error);
-    static std::shared_ptr<const ILMJsonValue> ReadJsonString(const std::string& text,
-                                                              std::shared_ptr<const ILMError>* error);
+    static std::shared_ptr<const ILMJsonValue>
+    ReadJsonString(const std::string& text, std::shared_ptr<const ILMError>* error);
 };
 
 } // namespace Lumeran

@@ -17,7 +17,9 @@ std::string ILMStringHelper::ToLower(const std::string& text) {
         }
         return result;
     }
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).toLower().toStdString();
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))
+        .toLower()
+        .toStdString();
 }
 
 } // namespace Lumeran

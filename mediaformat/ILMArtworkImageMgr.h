@@ -24,8 +24,8 @@ public:
 
     // A missing or unreadable configuration gives an empty pointer (and the error,
     // when asked for); an entry whose image files are missing is left out.
-    static std::shared_ptr<ILMArtworkImageMgr> MallocArtworkImageMgr(const std::string& icfgPath,
-                                                                     std::shared_ptr<const ILMError>* error);
+    static std::shared_ptr<ILMArtworkImageMgr>
+    MallocArtworkImageMgr(const std::string& icfgPath, std::shared_ptr<const ILMError>* error);
 };
 
 } // namespace Lumeran

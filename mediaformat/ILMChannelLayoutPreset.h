@@ -16,7 +16,7 @@ public:
     virtual std::string Id() const = 0;
     // True for the entry that leaves the value to the source ("Same as source", "Auto").
     virtual bool IsAutoValue() const = 0;
-    virtual int Channels() const = 0;          // 0 when automatic
+    virtual int Channels() const = 0;           // 0 when automatic
     virtual std::string LayoutName() const = 0; // encoder's name: "mono", "stereo", "5.1"
 };
 

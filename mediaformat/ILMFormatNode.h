@@ -61,12 +61,15 @@ public:
     // cannot read (wrong types, unknown container, codec or option ids, texts
     // over MaxTextLength, nesting over MaxDepth) gives an empty pointer and one
     // log line.
-    static std::shared_ptr<ILMFormatNode> MallocFormatNode(const std::shared_ptr<const ILMJsonValue>& json);
+    static std::shared_ptr<ILMFormatNode>
+    MallocFormatNode(const std::shared_ptr<const ILMJsonValue>& json);
 
-    static std::shared_ptr<ILMFormatNode> FirstChild(const std::shared_ptr<const ILMFormatNode>& node);
+    static std::shared_ptr<ILMFormatNode>
+    FirstChild(const std::shared_ptr<const ILMFormatNode>& node);
     static std::shared_ptr<const ILMFormatPreset>
     FirstFormatPreset(const std::shared_ptr<const ILMFormatNode>& node);
-    static std::shared_ptr<ILMFormatPreset> FirstFormatPreset(const std::shared_ptr<ILMFormatNode>& node);
+    static std::shared_ptr<ILMFormatPreset>
+    FirstFormatPreset(const std::shared_ptr<ILMFormatNode>& node);
 
     static constexpr int MaxDepth = 32;
     static constexpr int MaxTextLength = 4096;

@@ -16,7 +16,7 @@ public:
     virtual std::string Id() const = 0;
     // True for the entry that leaves the value to the source ("Same as source", "Auto").
     virtual bool IsAutoValue() const = 0;
-    virtual std::string Rate() const = 0; // empty when automatic
+    virtual std::string Rate() const = 0;       // empty when automatic
     virtual double FramesPerSecond() const = 0; // 0 when automatic
 };
 

@@ -27,7 +27,8 @@ TEST_F(ILMAppSettingsTest, SynchronizeWritesTheFileAtOnce) {
     EXPECT_TRUE(store->LastSynchronizeSucceeded());
     ASSERT_TRUE(QFile::exists(QString::fromStdString(settings->FilePath())));
     QSettings reader(QString::fromStdString(settings->FilePath()), QSettings::IniFormat);
-    EXPECT_EQ(reader.value(QStringLiteral("recent_format_preset")).toString(), QStringLiteral("persisted"));
+    EXPECT_EQ(reader.value(QStringLiteral("recent_format_preset")).toString(),
+              QStringLiteral("persisted"));
 }
 
 TEST_F(ILMAppSettingsTest, RedirectingToAnotherFileSeparatesStores) {

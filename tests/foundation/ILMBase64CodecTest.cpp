@@ -26,4 +26,6 @@ TEST(ILMBase64CodecTest, DecodeRejectsInvalidInput) {
     EXPECT_EQ(ILMBase64Codec::Decode("{\"title\":\"x\"}"), "");
 }
 
-TEST(ILMBase64CodecTest, DecodeOfEmptyTextIsEmpty) { EXPECT_EQ(ILMBase64Codec::Decode(""), ""); }
+TEST(ILMBase64CodecTest, DecodeOfEmptyTextIsEmpty) {
+    EXPECT_EQ(ILMBase64Codec::Decode(""), "");
+}

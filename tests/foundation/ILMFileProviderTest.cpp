@@ -22,7 +22,8 @@ TEST(ILMFileProviderTest, AppendPathExtensionAddsADot) {
 }
 
 TEST(ILMFileProviderTest, ReplacingTheExtensionGivesTheArtworkPath) {
-    EXPECT_EQ(ILMFileProvider::AppendPathExtension(
-                  ILMFileProvider::RemovePathExtension(":/LMMediaFormat/catalogue/formats.json"), "icfg"),
-              ":/LMMediaFormat/catalogue/formats.icfg");
+    EXPECT_EQ(
+        ILMFileProvider::AppendPathExtension(
+            ILMFileProvider::RemovePathExtension(":/LMMediaFormat/catalogue/formats.json"), "icfg"),
+        ":/LMMediaFormat/catalogue/formats.icfg");
 }

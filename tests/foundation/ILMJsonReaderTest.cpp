@@ -25,7 +25,8 @@ std::string WriteFile(const QTemporaryDir& dir, const QString& name, const QByte
 TEST(ILMJsonReaderTest, ReadsAnObject) {
     auto json = ILMJsonReader::ReadJsonString(R"({"title":"MP4","n":3})", nullptr);
     ASSERT_TRUE(json);
-    EXPECT_EQ(json->Value().toObject().value(QStringLiteral("title")).toString(), QStringLiteral("MP4"));
+    EXPECT_EQ(json->Value().toObject().value(QStringLiteral("title")).toString(),
+              QStringLiteral("MP4"));
 }
 
 TEST(ILMJsonReaderTest, ReadsAFile) {
@@ -58,11 +59,13 @@ TEST(ILMJsonReaderTest, DeepNestingGivesEmptyPointer) {
 TEST(ILMJsonReaderTest, MissingFileEmptyFileAndDirectoryGiveEmptyPointer) {
     QTemporaryDir dir;
     std::shared_ptr<const ILMError> error;
-    EXPECT_FALSE(ILMJsonReader::ReadJsonFile(dir.filePath(QStringLiteral("none.json")).toStdString(), &error));
+    EXPECT_FALSE(ILMJsonReader::ReadJsonFile(
+        dir.filePath(QStringLiteral("none.json")).toStdString(), &error));
     ASSERT_TRUE(error);
     EXPECT_EQ(error->ErrorCode(), ILMError::FileError);
     EXPECT_FALSE(ILMJsonReader::ReadJsonFile(dir.path().toStdString(), nullptr));
-    EXPECT_FALSE(ILMJsonReader::ReadJsonFile(WriteFile(dir, QStringLiteral("empty.json"), {}), nullptr));
+    EXPECT_FALSE(
+        ILMJsonReader::ReadJsonFile(WriteFile(dir, QStringLiteral("empty.json"), {}), nullptr));
     const auto truncated = WriteFile(dir, QStringLiteral("t.json"), R"({"children":[{"title":"A")");
     EXPECT_FALSE(ILMJsonReader::ReadJsonFile(truncated, nullptr));
 }
@@ -73,5 +76,6 @@ TEST(ILMJsonReaderTest, LargeStringIsReadWithoutCrashing) {
     text += "\"}";
     auto json = ILMJsonReader::ReadJsonString(text, nullptr);
     ASSERT_TRUE(json);
-    EXPECT_EQ(json->Value().toObject().value(QStringLiteral("title")).toString().size(), 50 * 1024 * 1024);
+    EXPECT_EQ(json->Value().toObject().value(QStringLiteral("title")).toString().size(),
+              50 * 1024 * 1024);
 }

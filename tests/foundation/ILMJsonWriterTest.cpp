@@ -1,5 +1,5 @@
-#include "ILMJsonReader.h"
 #include "ILMJsonWriter.h"
+#include "ILMJsonReader.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -9,7 +9,8 @@
 using namespace Lumeran;
 
 TEST(ILMJsonWriterTest, WritesCompactText) {
-    QJsonObject object{{QStringLiteral("title"), QStringLiteral("MP4")}, {QStringLiteral("faceId"), 100}};
+    QJsonObject object{{QStringLiteral("title"), QStringLiteral("MP4")},
+                       {QStringLiteral("faceId"), 100}};
     EXPECT_EQ(ILMJsonWriter::WriteJsonString(ILMJsonValue::MallocJsonValue(object)),
               R"({"faceId":100,"title":"MP4"})");
 }

@@ -13,7 +13,9 @@ IsolatedSettings::IsolatedSettings() {
 // must never fall through to the real application settings.
 IsolatedSettings::~IsolatedSettings() = default;
 
-std::string IsolatedSettings::DirPath() const { return m_dir.path().toStdString(); }
+std::string IsolatedSettings::DirPath() const {
+    return m_dir.path().toStdString();
+}
 
 std::string SourcePath(const std::string& relative) {
     return std::string(LMFP_SOURCE_DIR) + "/" + relative;

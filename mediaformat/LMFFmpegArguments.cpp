@@ -1,0 +1,132 @@
+#include "LMFFmpegArguments.h"
+
+#include "LMFormatPreset.h"
+
+namespace Lumeran {
+
+namespace {
+
+void Append(std::vector<std::string>& out, const std::vector<std::string>& more) {
+    out.insert(out.end(), more.begin(), more.end());
+}
+
+void AppendQuality(std::vector<std::string>& out, const ILMCodecQualityPreset& quality,
+                   bool audio) {
+    const char* flag = nullptr;
+    switch (quality.RateControl()) {
+    case ILMCodecQualityPreset::Kind::Crf:
+        flag = "-crf";
+        break;
+    case ILMCodecQualityPreset::Kind::Bitrate:
+        flag = audio ? "-b:a" : "-b:v";
+        break;
+    case ILMCodecQualityPreset::Kind::QScale:
+        flag = audio ? "-q:a" : "-q:v";
+        break;
+    case ILMCodecQualityPreset::Kind::Profile:
+        flag = audio ? "-profile:a" : "-profile:v";
+        break;
+    }
+    out.insert(out.end(), {flag, quality.Value()});
+}
+
+void AppendVideo(std::vector<std::string>& out, const LMFormatPreset& preset) {
+    const auto codec = preset.CurrentVideoCodec();
+    if (!codec) {
+        out.emplace_back("-vn");
+        return;
+    }
+    if (codec->IsAutoValue())
+        return;
+    out.insert(out.end(), {"-c:v", codec->Encoder()});
+    Append(out, codec->EncoderArguments());
+    const auto& codecArgs = preset.Container().codecArgs;
+    if (const auto found = codecArgs.find(codec->Id()); found != codecArgs.end())
+        Append(out, found->second);
+    if (const auto size = codec->CurrentResolution(); size && !size->IsAutoValue())
+        out.insert(out.end(),
+                   {"-s", std::to_string(size->Width()) + "x" + std::to_string(size->Height())});
+    if (const auto rate = codec->CurrentFramerate(); rate && !rate->IsAutoValue())
+        out.insert(out.end(), {"-r", rate->Rate()});
+    std::string pixelFormat = codec->PixelFormat();
+    if (const auto quality = codec->CurrentQuality()) {
+        AppendQuality(out, *quality, false);
+        if (!quality->PixelFormat().empty())
+            pixelFormat = quality->PixelFormat();
+    }
+    if (!pixelFormat.empty())
+        out.insert(out.end(), {"-pix_fmt", pixelFormat});
+}
+
+void AppendAudio(std::vector<std::string>& out, const LMFormatPreset& preset) {
+    const auto codec = preset.CurrentAudioCodec();
+    if (!codec) {
+        out.emplace_back("-an");
+        return;
+    }
+    if (codec->IsAutoValue())
+        return;
+    out.insert(out.end(), {"-c:a", codec->Encoder()});
+    Append(out, codec->EncoderArguments());
+    if (const auto rate = codec->CurrentSamplerate(); rate && !rate->IsAutoValue())
+        out.insert(out.end(), {"-ar", std::to_string(rate->Hertz())});
+    if (const auto layout = codec->CurrentChannelLayout(); layout && !layout->IsAutoValue())
+        out.insert(out.end(), {"-ac", std::to_string(layout->Channels())});
+    if (const auto quality = codec->CurrentQuality())
+        AppendQuality(out, *quality, true);
+}
+
+} // namespace
+
+std::vector<std::string>
+LMFFmpegArguments::OutputOptions(const std::shared_ptr<const ILMFormatPreset>& preset) {
+    const auto* format = dynamic_cast<const LMFormatPreset*>(preset.get());
+    if (!format)
+        return {};
+    std::vector<std::string> out;
+    AppendVideo(out, *format);
+    AppendAudio(out, *format);
+    Append(out, format->Container().args);
+    out.insert(out.end(), {"-f", format->Container().muxer});
+    return out;
+}
+
+std::vector<std::string>
+LMFFmpegArguments::Command(const std::shared_ptr<const ILMFormatPreset>& preset,
+                           const std::string& input, const std::string& output) {
+    std::vector<std::string> out{"-y", "-i", input};
+    Append(out, OutputOptions(preset));
+    out.push_back(output);
+    return out;
+}
+
+std::string LMFFmpegArguments::FileExtension(const std::shared_ptr<const ILMFormatPreset>& preset) {
+    const auto* format = dynamic_cast<const LMFormatPreset*>(preset.get());
+    return format ? format->Container().extension : std::string();
+}
+
+std::string LMFFmpegArguments::Join(const std::vector<std::string>& arguments) {
+    std::string line;
+    for (const std::string& argument : arguments) {
+        if (!line.empty())
+            line += ' ';
+        const bool plain =
+            !argument.empty() &&
+            argument.find_first_of(" \t\"'\\$`|&;<>()*?[]{}!#~") == std::string::npos;
+        if (plain) {
+            line += argument;
+            continue;
+        }
+        line += '\'';
+        for (const char c : argument) {
+            if (c == '\'')
+                line += "'\\''";
+            else
+                line += c;
+        }
+        line += '\'';
+    }
+    return line;
+}
+
+} // namespace Lumeran

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "ILMFormatNode.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Lumeran {
+
+class LMFormatNode final : public ILMFormatNode {
+public:
+    void SetParent(std::shared_ptr<ILMFormatNode> parent) override { m_parent = parent; }
+    int FaceID() const override { return m_faceID; }
+    void SetFaceID(int faceID) override { m_faceID = faceID; }
+    std::string Title() const override { return m_title; }
+    std::string Description() const override { return m_description; }
+    void SetTitle(const std::string& title) override { m_title = title; }
+    void SetDescription(const std::string& description) override { m_description = description; }
+    std::shared_ptr<ILMFormatNode> Clone(int options) const override;
+    std::shared_ptr<ILMJsonValue> ToJson() const override;
+    int FormatPresetCount() const override { return static_cast<int>(m_presets.size()); }
+    std::shared_ptr<const ILMFormatPreset> FormatPresetAt(int index) const override;
+    std::shared_ptr<ILMFormatPreset> FormatPresetAt(int index) override;
+    void AddFormatPreset(std::shared_ptr<ILMFormatPreset> preset) override;
+    bool RemoveFormatPreset(const std::string& presetTitle) override;
+    std::shared_ptr<ILMFormatPreset> FindFormatPreset(const std::string& title) const override;
+    int ChildCount() const override { return static_cast<int>(m_children.size()); }
+    std::shared_ptr<const ILMFormatNode> ChildAt(int index) const override;
+    std::shared_ptr<ILMFormatNode> ChildAt(int index) override;
+    void AddChild(std::shared_ptr<ILMFormatNode> child) override;
+    void RemoveChildAt(int index) override;
+    void RemoveChild(std::shared_ptr<const ILMFormatNode> child) override;
+    void RemoveChild(const std::string& title) override;
+    std::shared_ptr<ILMFormatNode> FindChild(const std::string& title) const override;
+    int IndexOfChild(const std::string& title) const override;
+    bool IsEqualTo(std::shared_ptr<const ILMFormatNode> other) const override;
+    std::shared_ptr<ILMFormatNode> Parent() const override { return m_parent.lock(); }
+
+    // Room for a known number of entries, used when reading large catalogues.
+    void Reserve(std::size_t presets, std::size_t children);
+
+private:
+    std::weak_ptr<ILMFormatNode> m_parent;
+    std::string m_title;
+    std::string m_description;
+    int m_faceID = 0;
+    std::vector<std::shared_ptr<ILMFormatPreset>> m_presets;
+    std::vector<std::shared_ptr<ILMFormatNode>> m_children;
+};
+
+} // namespace Lumeran

@@ -1,0 +1,138 @@
+#include "LMFormatPreset.h"
+
+#include "LMCodecPreset.h"
+
+#include <QString>
+
+namespace Lumeran {
+
+LMFormatPreset::LMFormatPreset(const LMContainerInfo* container)
+    : m_container(container), m_title(container->name),
+      m_currentVideo(container->video.empty() ? -1 : 0),
+      m_currentAudio(container->audio.empty() ? -1 : 0) {}
+
+std::shared_ptr<ILMFormatPreset> ILMFormatPreset::MallocFormatPreset(const std::string& formatName,
+                                                                     const std::string& title) {
+    const LMContainerInfo* container =
+        LMFormatRegistry::Instance().FindContainer(QString::fromStdString(formatName));
+    if (!container)
+        return {};
+    auto preset = std::make_shared<LMFormatPreset>(container);
+    if (!title.empty())
+        preset->SetTitle(title);
+    return preset;
+}
+
+std::shared_ptr<ILMFormatPreset> LMFormatPreset::Clone() const {
+    return std::make_shared<LMFormatPreset>(*this);
+}
+
+void LMFormatPreset::CopyFrom(std::shared_ptr<const ILMFormatPreset> other) {
+    if (!other || other.get() == this)
+        return;
+    if (const auto* source = dynamic_cast<const LMFormatPreset*>(other.get())) {
+        m_container = source->m_container;
+        m_title = source->m_title;
+        m_description = source->m_description;
+        m_faceID = source->m_faceID;
+        m_currentVideo = source->m_currentVideo;
+        m_currentAudio = source->m_currentAudio;
+        m_choices = source->m_choices;
+        return;
+    }
+    // Another implementation of the interface: take over what it exposes.
+    m_title = other->Title();
+    m_description = other->Description();
+    m_faceID = other->FaceID();
+    SetCurrentVideoCodec(other->CurrentVideoCodecIndex());
+    SetCurrentAudioCodec(other->CurrentAudioCodecIndex());
+}
+
+const LMCodecInfo* LMFormatPreset::Codec(bool audio, int index) const {
+    const auto& codecs = m_container->Codecs(audio);
+    if (index < 0 || index >= static_cast<int>(codecs.size()))
+        return nullptr;
+    return codecs[static_cast<std::size_t>(index)];
+}
+
+std::shared_ptr<ILMCodecPreset> LMFormatPreset::AudioCodecAt(int index) const {
+    if (!Codec(true, index))
+        return {};
+    auto self = std::const_pointer_cast<LMFormatPreset>(shared_from_this());
+    return std::make_shared<LMCodecPreset>(std::move(self), true, index);
+}
+
+std::shared_ptr<ILMCodecPreset> LMFormatPreset::VideoCodecAt(int index) const {
+    if (!Codec(false, index))
+        return {};
+    auto self = std::const_pointer_cast<LMFormatPreset>(shared_from_this());
+    return std::make_shared<LMCodecPreset>(std::move(self), false, index);
+}
+
+void LMFormatPreset::SetCurrentAudioCodec(int index) {
+    m_currentAudio = static_cast<std::int16_t>(Codec(true, index) ? index : -1);
+}
+
+void LMFormatPreset::SetCurrentVideoCodec(int index) {
+    m_currentVideo = static_cast<std::int16_t>(Codec(false, index) ? index : -1);
+}
+
+const LMFormatPreset::Choice* LMFormatPreset::FindChoice(bool audio, int codec) const {
+    for (const Choice& choice : m_choices) {
+        if (choice.audio == audio && choice.codec == codec)
+            return &choice;
+    }
+    return nullptr;
+}
+
+int LMFormatPreset::Option(bool audio, int codec, LMOptionList list) const {
+    const LMCodecInfo* info = Codec(audio, codec);
+    if (!info)
+        return -1;
+    const auto slot = static_cast<std::size_t>(list);
+    if (const Choice* choice = FindChoice(audio, codec))
+        return choice->options[slot];
+    return info->defaults[slot];
+}
+
+void LMFormatPreset::SetOption(bool audio, int codec, LMOptionList list, int index) {
+    const LMCodecInfo* info = Codec(audio, codec);
+    if (!info || index < 0 || index >= info->Count(list))
+        return;
+    auto* choice = const_cast<Choice*>(FindChoice(audio, codec));
+    if (!choice) {
+        Choice fresh;
+        fresh.audio = audio;
+        fresh.codec = static_cast<std::uint8_t>(codec);
+        for (std::size_t slot = 0; slot < fresh.options.size(); ++slot)
+            fresh.options[slot] = static_cast<std::int8_t>(info->defaults[slot]);
+        m_choices.push_back(fresh);
+        choice = &m_choices.back();
+    }
+    choice->options[static_cast<std::size_t>(list)] = static_cast<std::int8_t>(index);
+}
+
+bool LMFormatPreset::IsEqualTo(std::shared_ptr<const ILMFormatPreset> other) const {
+    if (!other)
+        return false;
+    if (other.get() == this)
+        return true;
+    const auto* that = dynamic_cast<const LMFormatPreset*>(other.get());
+    if (!that || m_container != that->m_container || m_title != that->m_title ||
+        m_description != that->m_description || m_faceID != that->m_faceID ||
+        m_currentVideo != that->m_currentVideo || m_currentAudio != that->m_currentAudio)
+        return false;
+    for (const bool audio : {false, true}) {
+        const int count = static_cast<int>(m_container->Codecs(audio).size());
+        for (int codec = 0; codec < count; ++codec) {
+            for (int list = 0; list < LMOptionListCount; ++list) {
+                const auto which = static_cast<LMOptionList>(list);
+                if (Option(audio, codec, which) != that->Option(audio, codec, which))
+                    return false;
+            }
+        }
+    }
+    return true;
+}
+
+} // namespace Lumeran
