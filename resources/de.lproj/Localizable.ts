@@ -1,0 +1,315 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Encoder</source>
+        <translation>Encoder</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>FrameRate</source>
+        <translation>Bildrate</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation>Abtastrate</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message>
+        <source>Save as New Preset</source>
+        <translation>Als neue Voreinstellung speichern</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>preset name</source>
+        <translation>Name der Voreinstellung</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Zuletzt verwendet</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Geräte</translation>
+    </message>
+    <message>
+        <source>Web Video</source>
+        <translation>Webvideo</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Eigene</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Same as source</source>
+        <translation>Wie Quelle</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>High Quality</source>
+        <translation>Hohe Qualität</translation>
+    </message>
+    <message>
+        <source>Medium Quality</source>
+        <translation>Mittlere Qualität</translation>
+    </message>
+    <message>
+        <source>Low Quality</source>
+        <translation>Niedrige Qualität</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>customSave</source>
+        <translation>Geben Sie einen Namen für die neue Voreinstellung ein:</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Niedrig</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>Beste</translation>
+    </message>
+    <message>
+        <source>MP4 file format</source>
+        <translation>MP4-Dateiformat</translation>
+    </message>
+    <message>
+        <source>MP4 file format with HEVC</source>
+        <translation>MP4-Dateiformat mit HEVC</translation>
+    </message>
+    <message>
+        <source>MOV file format with Apple ProRes</source>
+        <translation>MOV-Dateiformat mit Apple ProRes</translation>
+    </message>
+    <message>
+        <source>MP4 file format for iTunes</source>
+        <translation>MP4-Dateiformat für iTunes</translation>
+    </message>
+    <message>
+        <source>Matroska file format</source>
+        <translation>Matroska-Dateiformat</translation>
+    </message>
+    <message>
+        <source>Matroska file format with HEVC</source>
+        <translation>Matroska-Dateiformat mit HEVC</translation>
+    </message>
+    <message>
+        <source>Audiovisual Media file format</source>
+        <translation>Audiovisuelles Mediendateiformat</translation>
+    </message>
+    <message>
+        <source>AVI file format with XVID</source>
+        <translation>AVI-Dateiformat mit XVID</translation>
+    </message>
+    <message>
+        <source>AVI file format with DIVX</source>
+        <translation>AVI-Dateiformat mit DIVX</translation>
+    </message>
+    <message>
+        <source>MXF file format with DNxHD</source>
+        <translation>MXF-Dateiformat mit DNxHD</translation>
+    </message>
+    <message>
+        <source>MXF file format with Apple ProRes</source>
+        <translation>MXF-Dateiformat mit Apple ProRes</translation>
+    </message>
+    <message>
+        <source>MPEG File format for VCD</source>
+        <translation>MPEG-Dateiformat für VCD</translation>
+    </message>
+    <message>
+        <source>MPEG file format for SVCD</source>
+        <translation>MPEG-Dateiformat für SVCD</translation>
+    </message>
+    <message>
+        <source>MPEG file format for DVD - Video</source>
+        <translation>MPEG-Dateiformat für DVD-Video</translation>
+    </message>
+    <message>
+        <source>3GPP2 file format</source>
+        <translation>3GPP2-Dateiformat</translation>
+    </message>
+    <message>
+        <source>3GPP file format</source>
+        <translation>3GPP-Dateiformat</translation>
+    </message>
+    <message>
+        <source>Waveform Audio File Format</source>
+        <translation>Waveform-Audio-Dateiformat</translation>
+    </message>
+    <message>
+        <source>Audio Interchange File Format</source>
+        <translation>Audio-Interchange-Dateiformat</translation>
+    </message>
+    <message>
+        <source>Simple Audio File Format</source>
+        <translation>Einfaches Audio-Dateiformat</translation>
+    </message>
+    <message>
+        <source>Matroska Audio File Format</source>
+        <translation>Matroska-Audio-Dateiformat</translation>
+    </message>
+    <message>
+        <source>Smartphone</source>
+        <translation>Smartphone</translation>
+    </message>
+    <message>
+        <source>Tablet</source>
+        <translation>Tablet</translation>
+    </message>
+    <message>
+        <source>Television</source>
+        <translation>Fernseher</translation>
+    </message>
+    <message>
+        <source>Game Console</source>
+        <translation>Spielkonsole</translation>
+    </message>
+    <message>
+        <source>Basic Phone</source>
+        <translation>Einfaches Handy</translation>
+    </message>
+    <message>
+        <source>DVD Player</source>
+        <translation>DVD-Player</translation>
+    </message>
+    <message>
+        <source>Video Sharing</source>
+        <translation>Videoportale</translation>
+    </message>
+    <message>
+        <source>Social Square</source>
+        <translation>Soziale Medien (quadratisch)</translation>
+    </message>
+    <message>
+        <source>Vertical Video</source>
+        <translation>Hochformat-Video</translation>
+    </message>
+    <message>
+        <source>WebM file format</source>
+        <translation>WebM-Dateiformat</translation>
+    </message>
+    <message>
+        <source>MP3 file format</source>
+        <translation>MP3-Dateiformat</translation>
+    </message>
+    <message>
+        <source>M4A file format with AAC</source>
+        <translation>M4A-Dateiformat mit AAC</translation>
+    </message>
+    <message>
+        <source>FLAC file format</source>
+        <translation>FLAC-Dateiformat</translation>
+    </message>
+    <message>
+        <source>Square 1080p</source>
+        <translation>Quadratisch 1080p</translation>
+    </message>
+    <message>
+        <source>Vertical 1080p</source>
+        <translation>Hochformat 1080p</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Verlustfrei</translation>
+    </message>
+    <message>
+        <source>Mono</source>
+        <translation>Mono</translation>
+    </message>
+    <message>
+        <source>Stereo</source>
+        <translation>Stereo</translation>
+    </message>
+    <message>
+        <source>5.1 Surround</source>
+        <translation>5.1-Surround</translation>
+    </message>
+    <message>
+        <source>Recent Selection</source>
+        <translation>Zuletzt ausgewählt</translation>
+    </message>
+    <message>
+        <source>Custom Preset</source>
+        <translation>Eigene Voreinstellung</translation>
+    </message>
+    <message>
+        <source>MP4 Format</source>
+        <translation>MP4-Format</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Loading formats…</source>
+        <translation>Formate werden geladen …</translation>
+    </message>
+    <message>
+        <source>No matching presets</source>
+        <translation>Keine passenden Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>Choose a format</source>
+        <translation>Format auswählen</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+</context>
+</TS>

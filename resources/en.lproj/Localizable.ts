@@ -1,0 +1,315 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Encoder</source>
+        <translation>Encoder</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolution</translation>
+    </message>
+    <message>
+        <source>FrameRate</source>
+        <translation>Frame Rate</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Quality</translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation>Sample Rate</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Channels</translation>
+    </message>
+    <message>
+        <source>Save as New Preset</source>
+        <translation>Save as New Preset</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>preset name</source>
+        <translation>Preset name</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Recent</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Device</translation>
+    </message>
+    <message>
+        <source>Web Video</source>
+        <translation>Web Video</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Same as source</source>
+        <translation>Same as source</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>High Quality</source>
+        <translation>High Quality</translation>
+    </message>
+    <message>
+        <source>Medium Quality</source>
+        <translation>Medium Quality</translation>
+    </message>
+    <message>
+        <source>Low Quality</source>
+        <translation>Low Quality</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>customSave</source>
+        <translation>Enter a name for the new preset:</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>High</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Medium</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Low</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>Best</translation>
+    </message>
+    <message>
+        <source>MP4 file format</source>
+        <translation>MP4 file format</translation>
+    </message>
+    <message>
+        <source>MP4 file format with HEVC</source>
+        <translation>MP4 file format with HEVC</translation>
+    </message>
+    <message>
+        <source>MOV file format with Apple ProRes</source>
+        <translation>MOV file format with Apple ProRes</translation>
+    </message>
+    <message>
+        <source>MP4 file format for iTunes</source>
+        <translation>MP4 file format for iTunes</translation>
+    </message>
+    <message>
+        <source>Matroska file format</source>
+        <translation>Matroska file format</translation>
+    </message>
+    <message>
+        <source>Matroska file format with HEVC</source>
+        <translation>Matroska file format with HEVC</translation>
+    </message>
+    <message>
+        <source>Audiovisual Media file format</source>
+        <translation>Audiovisual Media file format</translation>
+    </message>
+    <message>
+        <source>AVI file format with XVID</source>
+        <translation>AVI file format with XVID</translation>
+    </message>
+    <message>
+        <source>AVI file format with DIVX</source>
+        <translation>AVI file format with DIVX</translation>
+    </message>
+    <message>
+        <source>MXF file format with DNxHD</source>
+        <translation>MXF file format with DNxHD</translation>
+    </message>
+    <message>
+        <source>MXF file format with Apple ProRes</source>
+        <translation>MXF file format with Apple ProRes</translation>
+    </message>
+    <message>
+        <source>MPEG File format for VCD</source>
+        <translation>MPEG file format for VCD</translation>
+    </message>
+    <message>
+        <source>MPEG file format for SVCD</source>
+        <translation>MPEG file format for SVCD</translation>
+    </message>
+    <message>
+        <source>MPEG file format for DVD - Video</source>
+        <translation>MPEG file format for DVD-Video</translation>
+    </message>
+    <message>
+        <source>3GPP2 file format</source>
+        <translation>3GPP2 file format</translation>
+    </message>
+    <message>
+        <source>3GPP file format</source>
+        <translation>3GPP file format</translation>
+    </message>
+    <message>
+        <source>Waveform Audio File Format</source>
+        <translation>Waveform Audio File Format</translation>
+    </message>
+    <message>
+        <source>Audio Interchange File Format</source>
+        <translation>Audio Interchange File Format</translation>
+    </message>
+    <message>
+        <source>Simple Audio File Format</source>
+        <translation>Simple Audio File Format</translation>
+    </message>
+    <message>
+        <source>Matroska Audio File Format</source>
+        <translation>Matroska Audio File Format</translation>
+    </message>
+    <message>
+        <source>Smartphone</source>
+        <translation>Smartphone</translation>
+    </message>
+    <message>
+        <source>Tablet</source>
+        <translation>Tablet</translation>
+    </message>
+    <message>
+        <source>Television</source>
+        <translation>Television</translation>
+    </message>
+    <message>
+        <source>Game Console</source>
+        <translation>Game Console</translation>
+    </message>
+    <message>
+        <source>Basic Phone</source>
+        <translation>Basic Phone</translation>
+    </message>
+    <message>
+        <source>DVD Player</source>
+        <translation>DVD Player</translation>
+    </message>
+    <message>
+        <source>Video Sharing</source>
+        <translation>Video Sharing</translation>
+    </message>
+    <message>
+        <source>Social Square</source>
+        <translation>Social Square</translation>
+    </message>
+    <message>
+        <source>Vertical Video</source>
+        <translation>Vertical Video</translation>
+    </message>
+    <message>
+        <source>WebM file format</source>
+        <translation>WebM file format</translation>
+    </message>
+    <message>
+        <source>MP3 file format</source>
+        <translation>MP3 file format</translation>
+    </message>
+    <message>
+        <source>M4A file format with AAC</source>
+        <translation>M4A file format with AAC</translation>
+    </message>
+    <message>
+        <source>FLAC file format</source>
+        <translation>FLAC file format</translation>
+    </message>
+    <message>
+        <source>Square 1080p</source>
+        <translation>Square 1080p</translation>
+    </message>
+    <message>
+        <source>Vertical 1080p</source>
+        <translation>Vertical 1080p</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Lossless</translation>
+    </message>
+    <message>
+        <source>Mono</source>
+        <translation>Mono</translation>
+    </message>
+    <message>
+        <source>Stereo</source>
+        <translation>Stereo</translation>
+    </message>
+    <message>
+        <source>5.1 Surround</source>
+        <translation>5.1 Surround</translation>
+    </message>
+    <message>
+        <source>Recent Selection</source>
+        <translation>Recent Selection</translation>
+    </message>
+    <message>
+        <source>Custom Preset</source>
+        <translation>Custom Preset</translation>
+    </message>
+    <message>
+        <source>MP4 Format</source>
+        <translation>MP4 Format</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Loading formats…</source>
+        <translation>Loading formats…</translation>
+    </message>
+    <message>
+        <source>No matching presets</source>
+        <translation>No matching presets</translation>
+    </message>
+    <message>
+        <source>Choose a format</source>
+        <translation>Choose a format</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,315 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Encoder</source>
+        <translation>Codificador</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolución</translation>
+    </message>
+    <message>
+        <source>FrameRate</source>
+        <translation>Velocidad de fotogramas</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Calidad</translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation>Frecuencia de muestreo</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canales</translation>
+    </message>
+    <message>
+        <source>Save as New Preset</source>
+        <translation>Guardar como nuevo preajuste</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>preset name</source>
+        <translation>Nombre del preajuste</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Recientes</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>Web Video</source>
+        <translation>Vídeo web</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizados</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Same as source</source>
+        <translation>Igual que el original</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>High Quality</source>
+        <translation>Alta calidad</translation>
+    </message>
+    <message>
+        <source>Medium Quality</source>
+        <translation>Calidad media</translation>
+    </message>
+    <message>
+        <source>Low Quality</source>
+        <translation>Baja calidad</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>customSave</source>
+        <translation>Introduce un nombre para el nuevo preajuste:</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Restablecer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Alta</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Baja</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>Máxima</translation>
+    </message>
+    <message>
+        <source>MP4 file format</source>
+        <translation>Formato de archivo MP4</translation>
+    </message>
+    <message>
+        <source>MP4 file format with HEVC</source>
+        <translation>Formato de archivo MP4 con HEVC</translation>
+    </message>
+    <message>
+        <source>MOV file format with Apple ProRes</source>
+        <translation>Formato de archivo MOV con Apple ProRes</translation>
+    </message>
+    <message>
+        <source>MP4 file format for iTunes</source>
+        <translation>Formato de archivo MP4 para iTunes</translation>
+    </message>
+    <message>
+        <source>Matroska file format</source>
+        <translation>Formato de archivo Matroska</translation>
+    </message>
+    <message>
+        <source>Matroska file format with HEVC</source>
+        <translation>Formato de archivo Matroska con HEVC</translation>
+    </message>
+    <message>
+        <source>Audiovisual Media file format</source>
+        <translation>Formato de archivo multimedia audiovisual</translation>
+    </message>
+    <message>
+        <source>AVI file format with XVID</source>
+        <translation>Formato de archivo AVI con XVID</translation>
+    </message>
+    <message>
+        <source>AVI file format with DIVX</source>
+        <translation>Formato de archivo AVI con DIVX</translation>
+    </message>
+    <message>
+        <source>MXF file format with DNxHD</source>
+        <translation>Formato de archivo MXF con DNxHD</translation>
+    </message>
+    <message>
+        <source>MXF file format with Apple ProRes</source>
+        <translation>Formato de archivo MXF con Apple ProRes</translation>
+    </message>
+    <message>
+        <source>MPEG File format for VCD</source>
+        <translation>Formato de archivo MPEG para VCD</translation>
+    </message>
+    <message>
+        <source>MPEG file format for SVCD</source>
+        <translation>Formato de archivo MPEG para SVCD</translation>
+    </message>
+    <message>
+        <source>MPEG file format for DVD - Video</source>
+        <translation>Formato de archivo MPEG para DVD-Vídeo</translation>
+    </message>
+    <message>
+        <source>3GPP2 file format</source>
+        <translation>Formato de archivo 3GPP2</translation>
+    </message>
+    <message>
+        <source>3GPP file format</source>
+        <translation>Formato de archivo 3GPP</translation>
+    </message>
+    <message>
+        <source>Waveform Audio File Format</source>
+        <translation>Formato de archivo de audio Waveform</translation>
+    </message>
+    <message>
+        <source>Audio Interchange File Format</source>
+        <translation>Formato de archivo Audio Interchange</translation>
+    </message>
+    <message>
+        <source>Simple Audio File Format</source>
+        <translation>Formato de archivo de audio simple</translation>
+    </message>
+    <message>
+        <source>Matroska Audio File Format</source>
+        <translation>Formato de archivo de audio Matroska</translation>
+    </message>
+    <message>
+        <source>Smartphone</source>
+        <translation>Smartphone</translation>
+    </message>
+    <message>
+        <source>Tablet</source>
+        <translation>Tableta</translation>
+    </message>
+    <message>
+        <source>Television</source>
+        <translation>Televisor</translation>
+    </message>
+    <message>
+        <source>Game Console</source>
+        <translation>Videoconsola</translation>
+    </message>
+    <message>
+        <source>Basic Phone</source>
+        <translation>Teléfono básico</translation>
+    </message>
+    <message>
+        <source>DVD Player</source>
+        <translation>Reproductor de DVD</translation>
+    </message>
+    <message>
+        <source>Video Sharing</source>
+        <translation>Compartir vídeos</translation>
+    </message>
+    <message>
+        <source>Social Square</source>
+        <translation>Redes sociales (cuadrado)</translation>
+    </message>
+    <message>
+        <source>Vertical Video</source>
+        <translation>Vídeo vertical</translation>
+    </message>
+    <message>
+        <source>WebM file format</source>
+        <translation>Formato de archivo WebM</translation>
+    </message>
+    <message>
+        <source>MP3 file format</source>
+        <translation>Formato de archivo MP3</translation>
+    </message>
+    <message>
+        <source>M4A file format with AAC</source>
+        <translation>Formato de archivo M4A con AAC</translation>
+    </message>
+    <message>
+        <source>FLAC file format</source>
+        <translation>Formato de archivo FLAC</translation>
+    </message>
+    <message>
+        <source>Square 1080p</source>
+        <translation>Cuadrado 1080p</translation>
+    </message>
+    <message>
+        <source>Vertical 1080p</source>
+        <translation>Vertical 1080p</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Sin pérdida</translation>
+    </message>
+    <message>
+        <source>Mono</source>
+        <translation>Mono</translation>
+    </message>
+    <message>
+        <source>Stereo</source>
+        <translation>Estéreo</translation>
+    </message>
+    <message>
+        <source>5.1 Surround</source>
+        <translation>Envolvente 5.1</translation>
+    </message>
+    <message>
+        <source>Recent Selection</source>
+        <translation>Selección reciente</translation>
+    </message>
+    <message>
+        <source>Custom Preset</source>
+        <translation>Preajuste personalizado</translation>
+    </message>
+    <message>
+        <source>MP4 Format</source>
+        <translation>Formato MP4</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Loading formats…</source>
+        <translation>Cargando formatos…</translation>
+    </message>
+    <message>
+        <source>No matching presets</source>
+        <translation>No hay preajustes que coincidan</translation>
+    </message>
+    <message>
+        <source>Choose a format</source>
+        <translation>Elige un formato</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Formato</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,315 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Encoder</source>
+        <translation>Codificatore</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Risoluzione</translation>
+    </message>
+    <message>
+        <source>FrameRate</source>
+        <translation>Frequenza fotogrammi</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualità</translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation>Frequenza di campionamento</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canali</translation>
+    </message>
+    <message>
+        <source>Save as New Preset</source>
+        <translation>Salva come nuova preimpostazione</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>preset name</source>
+        <translation>Nome della preimpostazione</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Recenti</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivi</translation>
+    </message>
+    <message>
+        <source>Web Video</source>
+        <translation>Video web</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizzati</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Cerca</translation>
+    </message>
+    <message>
+        <source>Same as source</source>
+        <translation>Uguale alla sorgente</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Automatico</translation>
+    </message>
+    <message>
+        <source>High Quality</source>
+        <translation>Alta qualità</translation>
+    </message>
+    <message>
+        <source>Medium Quality</source>
+        <translation>Qualità media</translation>
+    </message>
+    <message>
+        <source>Low Quality</source>
+        <translation>Bassa qualità</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>customSave</source>
+        <translation>Inserisci un nome per la nuova preimpostazione:</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Alta</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Bassa</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>Massima</translation>
+    </message>
+    <message>
+        <source>MP4 file format</source>
+        <translation>Formato file MP4</translation>
+    </message>
+    <message>
+        <source>MP4 file format with HEVC</source>
+        <translation>Formato file MP4 con HEVC</translation>
+    </message>
+    <message>
+        <source>MOV file format with Apple ProRes</source>
+        <translation>Formato file MOV con Apple ProRes</translation>
+    </message>
+    <message>
+        <source>MP4 file format for iTunes</source>
+        <translation>Formato file MP4 per iTunes</translation>
+    </message>
+    <message>
+        <source>Matroska file format</source>
+        <translation>Formato file Matroska</translation>
+    </message>
+    <message>
+        <source>Matroska file format with HEVC</source>
+        <translation>Formato file Matroska con HEVC</translation>
+    </message>
+    <message>
+        <source>Audiovisual Media file format</source>
+        <translation>Formato file multimediale audiovisivo</translation>
+    </message>
+    <message>
+        <source>AVI file format with XVID</source>
+        <translation>Formato file AVI con XVID</translation>
+    </message>
+    <message>
+        <source>AVI file format with DIVX</source>
+        <translation>Formato file AVI con DIVX</translation>
+    </message>
+    <message>
+        <source>MXF file format with DNxHD</source>
+        <translation>Formato file MXF con DNxHD</translation>
+    </message>
+    <message>
+        <source>MXF file format with Apple ProRes</source>
+        <translation>Formato file MXF con Apple ProRes</translation>
+    </message>
+    <message>
+        <source>MPEG File format for VCD</source>
+        <translation>Formato file MPEG per VCD</translation>
+    </message>
+    <message>
+        <source>MPEG file format for SVCD</source>
+        <translation>Formato file MPEG per SVCD</translation>
+    </message>
+    <message>
+        <source>MPEG file format for DVD - Video</source>
+        <translation>Formato file MPEG per DVD-Video</translation>
+    </message>
+    <message>
+        <source>3GPP2 file format</source>
+        <translation>Formato file 3GPP2</translation>
+    </message>
+    <message>
+        <source>3GPP file format</source>
+        <translation>Formato file 3GPP</translation>
+    </message>
+    <message>
+        <source>Waveform Audio File Format</source>
+        <translation>Formato file audio Waveform</translation>
+    </message>
+    <message>
+        <source>Audio Interchange File Format</source>
+        <translation>Formato file Audio Interchange</translation>
+    </message>
+    <message>
+        <source>Simple Audio File Format</source>
+        <translation>Formato file audio semplice</translation>
+    </message>
+    <message>
+        <source>Matroska Audio File Format</source>
+        <translation>Formato file audio Matroska</translation>
+    </message>
+    <message>
+        <source>Smartphone</source>
+        <translation>Smartphone</translation>
+    </message>
+    <message>
+        <source>Tablet</source>
+        <translation>Tablet</translation>
+    </message>
+    <message>
+        <source>Television</source>
+        <translation>Televisore</translation>
+    </message>
+    <message>
+        <source>Game Console</source>
+        <translation>Console per videogiochi</translation>
+    </message>
+    <message>
+        <source>Basic Phone</source>
+        <translation>Cellulare classico</translation>
+    </message>
+    <message>
+        <source>DVD Player</source>
+        <translation>Lettore DVD</translation>
+    </message>
+    <message>
+        <source>Video Sharing</source>
+        <translation>Condivisione video</translation>
+    </message>
+    <message>
+        <source>Social Square</source>
+        <translation>Social (quadrato)</translation>
+    </message>
+    <message>
+        <source>Vertical Video</source>
+        <translation>Video verticale</translation>
+    </message>
+    <message>
+        <source>WebM file format</source>
+        <translation>Formato file WebM</translation>
+    </message>
+    <message>
+        <source>MP3 file format</source>
+        <translation>Formato file MP3</translation>
+    </message>
+    <message>
+        <source>M4A file format with AAC</source>
+        <translation>Formato file M4A con AAC</translation>
+    </message>
+    <message>
+        <source>FLAC file format</source>
+        <translation>Formato file FLAC</translation>
+    </message>
+    <message>
+        <source>Square 1080p</source>
+        <translation>Quadrato 1080p</translation>
+    </message>
+    <message>
+        <source>Vertical 1080p</source>
+        <translation>Verticale 1080p</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Senza perdita</translation>
+    </message>
+    <message>
+        <source>Mono</source>
+        <translation>Mono</translation>
+    </message>
+    <message>
+        <source>Stereo</source>
+        <translation>Stereo</translation>
+    </message>
+    <message>
+        <source>5.1 Surround</source>
+        <translation>Surround 5.1</translation>
+    </message>
+    <message>
+        <source>Recent Selection</source>
+        <translation>Selezione recente</translation>
+    </message>
+    <message>
+        <source>Custom Preset</source>
+        <translation>Preimpostazione personalizzata</translation>
+    </message>
+    <message>
+        <source>MP4 Format</source>
+        <translation>Formato MP4</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifica</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Loading formats…</source>
+        <translation>Caricamento dei formati…</translation>
+    </message>
+    <message>
+        <source>No matching presets</source>
+        <translation>Nessuna preimpostazione corrispondente</translation>
+    </message>
+    <message>
+        <source>Choose a format</source>
+        <translation>Scegli un formato</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Formato</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,315 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Video</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音频</translation>
+    </message>
+    <message>
+        <source>Encoder</source>
+        <translation>编码器</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>分辨率</translation>
+    </message>
+    <message>
+        <source>FrameRate</source>
+        <translation>帧率</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>质量</translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation>采样率</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>声道</translation>
+    </message>
+    <message>
+        <source>Save as New Preset</source>
+        <translation>另存为新预设</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>preset name</source>
+        <translation>预设名称</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>最近使用</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>Web Video</source>
+        <translation>网络视频</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>自定义</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Same as source</source>
+        <translation>与源文件相同</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>High Quality</source>
+        <translation>高质量</translation>
+    </message>
+    <message>
+        <source>Medium Quality</source>
+        <translation>中等质量</translation>
+    </message>
+    <message>
+        <source>Low Quality</source>
+        <translation>低质量</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>customSave</source>
+        <translation>请输入新预设的名称：</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重置</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>最佳</translation>
+    </message>
+    <message>
+        <source>MP4 file format</source>
+        <translation>MP4 文件格式</translation>
+    </message>
+    <message>
+        <source>MP4 file format with HEVC</source>
+        <translation>采用 HEVC 编码的 MP4 文件格式</translation>
+    </message>
+    <message>
+        <source>MOV file format with Apple ProRes</source>
+        <translation>采用 Apple ProRes 编码的 MOV 文件格式</translation>
+    </message>
+    <message>
+        <source>MP4 file format for iTunes</source>
+        <translation>适用于 iTunes 的 MP4 文件格式</translation>
+    </message>
+    <message>
+        <source>Matroska file format</source>
+        <translation>Matroska 文件格式</translation>
+    </message>
+    <message>
+        <source>Matroska file format with HEVC</source>
+        <translation>采用 HEVC 编码的 Matroska 文件格式</translation>
+    </message>
+    <message>
+        <source>Audiovisual Media file format</source>
+        <translation>音视频媒体文件格式</translation>
+    </message>
+    <message>
+        <source>AVI file format with XVID</source>
+        <translation>采用 XVID 编码的 AVI 文件格式</translation>
+    </message>
+    <message>
+        <source>AVI file format with DIVX</source>
+        <translation>采用 DIVX 编码的 AVI 文件格式</translation>
+    </message>
+    <message>
+        <source>MXF file format with DNxHD</source>
+        <translation>采用 DNxHD 编码的 MXF 文件格式</translation>
+    </message>
+    <message>
+        <source>MXF file format with Apple ProRes</source>
+        <translation>采用 Apple ProRes 编码的 MXF 文件格式</translation>
+    </message>
+    <message>
+        <source>MPEG File format for VCD</source>
+        <translation>适用于 VCD 的 MPEG 文件格式</translation>
+    </message>
+    <message>
+        <source>MPEG file format for SVCD</source>
+        <translation>适用于 SVCD 的 MPEG 文件格式</translation>
+    </message>
+    <message>
+        <source>MPEG file format for DVD - Video</source>
+        <translation>适用于 DVD-Video 的 MPEG 文件格式</translation>
+    </message>
+    <message>
+        <source>3GPP2 file format</source>
+        <translation>3GPP2 文件格式</translation>
+    </message>
+    <message>
+        <source>3GPP file format</source>
+        <translation>3GPP 文件格式</translation>
+    </message>
+    <message>
+        <source>Waveform Audio File Format</source>
+        <translation>波形音频文件格式</translation>
+    </message>
+    <message>
+        <source>Audio Interchange File Format</source>
+        <translation>音频交换文件格式</translation>
+    </message>
+    <message>
+        <source>Simple Audio File Format</source>
+        <translation>简单音频文件格式</translation>
+    </message>
+    <message>
+        <source>Matroska Audio File Format</source>
+        <translation>Matroska 音频文件格式</translation>
+    </message>
+    <message>
+        <source>Smartphone</source>
+        <translation>智能手机</translation>
+    </message>
+    <message>
+        <source>Tablet</source>
+        <translation>平板电脑</translation>
+    </message>
+    <message>
+        <source>Television</source>
+        <translation>电视</translation>
+    </message>
+    <message>
+        <source>Game Console</source>
+        <translation>游戏机</translation>
+    </message>
+    <message>
+        <source>Basic Phone</source>
+        <translation>功能手机</translation>
+    </message>
+    <message>
+        <source>DVD Player</source>
+        <translation>DVD 播放机</translation>
+    </message>
+    <message>
+        <source>Video Sharing</source>
+        <translation>视频分享</translation>
+    </message>
+    <message>
+        <source>Social Square</source>
+        <translation>社交方形</translation>
+    </message>
+    <message>
+        <source>Vertical Video</source>
+        <translation>竖屏视频</translation>
+    </message>
+    <message>
+        <source>WebM file format</source>
+        <translation>WebM 文件格式</translation>
+    </message>
+    <message>
+        <source>MP3 file format</source>
+        <translation>MP3 文件格式</translation>
+    </message>
+    <message>
+        <source>M4A file format with AAC</source>
+        <translation>采用 AAC 编码的 M4A 文件格式</translation>
+    </message>
+    <message>
+        <source>FLAC file format</source>
+        <translation>FLAC 文件格式</translation>
+    </message>
+    <message>
+        <source>Square 1080p</source>
+        <translation>方形 1080p</translation>
+    </message>
+    <message>
+        <source>Vertical 1080p</source>
+        <translation>竖屏 1080p</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>无损</translation>
+    </message>
+    <message>
+        <source>Mono</source>
+        <translation>单声道</translation>
+    </message>
+    <message>
+        <source>Stereo</source>
+        <translation>立体声</translation>
+    </message>
+    <message>
+        <source>5.1 Surround</source>
+        <translation>5.1 环绕声</translation>
+    </message>
+    <message>
+        <source>Recent Selection</source>
+        <translation>最近的选择</translation>
+    </message>
+    <message>
+        <source>Custom Preset</source>
+        <translation>自定义预设</translation>
+    </message>
+    <message>
+        <source>MP4 Format</source>
+        <translation>MP4 格式</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Loading formats…</source>
+        <translation>正在载入格式…</translation>
+    </message>
+    <message>
+        <source>No matching presets</source>
+        <translation>没有匹配的预设</translation>
+    </message>
+    <message>
+        <source>Choose a format</source>
+        <translation>选择格式</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+</context>
+</TS>
