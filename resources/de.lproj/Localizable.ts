@@ -288,6 +288,14 @@
         <translation>MP4-Format</translation>
     </message>
     <message>
+        <source>Formats</source>
+        <translation>Formate</translation>
+    </message>
+    <message>
+        <source>Default format catalogue</source>
+        <translation>Standard-Formatkatalog</translation>
+    </message>
+    <message>
         <source>Edit</source>
         <translation>Bearbeiten</translation>
     </message>

@@ -288,6 +288,14 @@
         <translation>MP4 Format</translation>
     </message>
     <message>
+        <source>Formats</source>
+        <translation>Formats</translation>
+    </message>
+    <message>
+        <source>Default format catalogue</source>
+        <translation>Default format catalogue</translation>
+    </message>
+    <message>
         <source>Edit</source>
         <translation>Edit</translation>
     </message>

@@ -288,6 +288,14 @@
         <translation>Format MP4</translation>
     </message>
     <message>
+        <source>Formats</source>
+        <translation>Formats</translation>
+    </message>
+    <message>
+        <source>Default format catalogue</source>
+        <translation>Catalogue de formats par défaut</translation>
+    </message>
+    <message>
         <source>Edit</source>
         <translation>Modifier</translation>
     </message>

@@ -288,6 +288,14 @@
         <translation>Formato MP4</translation>
     </message>
     <message>
+        <source>Formats</source>
+        <translation>Formati</translation>
+    </message>
+    <message>
+        <source>Default format catalogue</source>
+        <translation>Catalogo dei formati predefinito</translation>
+    </message>
+    <message>
         <source>Edit</source>
         <translation>Modifica</translation>
     </message>

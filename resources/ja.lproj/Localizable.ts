@@ -288,6 +288,14 @@
         <translation>MP4 形式</translation>
     </message>
     <message>
+        <source>Formats</source>
+        <translation>フォーマット一覧</translation>
+    </message>
+    <message>
+        <source>Default format catalogue</source>
+        <translation>標準フォーマットカタログ</translation>
+    </message>
+    <message>
         <source>Edit</source>
         <translation>編集</translation>
     </message>

@@ -288,6 +288,14 @@
         <translation>Formato MP4</translation>
     </message>
     <message>
+        <source>Formats</source>
+        <translation>Formatos</translation>
+    </message>
+    <message>
+        <source>Default format catalogue</source>
+        <translation>Catálogo de formatos padrão</translation>
+    </message>
+    <message>
         <source>Edit</source>
         <translation>Editar</translation>
     </message>

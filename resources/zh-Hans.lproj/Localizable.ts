@@ -288,6 +288,14 @@
         <translation>MP4 格式</translation>
     </message>
     <message>
+        <source>Formats</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>Default format catalogue</source>
+        <translation>默认格式目录</translation>
+    </message>
+    <message>
         <source>Edit</source>
         <translation>编辑</translation>
     </message>

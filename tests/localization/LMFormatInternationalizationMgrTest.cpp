@@ -5,7 +5,11 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QMetaProperty>
+#include <QRegularExpression>
 #include <QSet>
 #include <QSignalSpy>
 #include <QTranslator>
@@ -141,6 +145,44 @@ const QStringList kInterfaceWords{
     QStringLiteral("Square 1080p"),
     QStringLiteral("Vertical 1080p"),
 };
+
+// Every title and description of a catalogue node, its presets and its children.
+void collectCatalogueTexts(const QJsonObject& node, QStringList& texts) {
+    for (const char* field : {"title", "description"}) {
+        if (node.value(QLatin1String(field)).isString())
+            texts << node.value(QLatin1String(field)).toString();
+    }
+    const QJsonArray presets = node.value(QLatin1String("presets")).toArray();
+    for (const QJsonValue& preset : presets) {
+        for (const char* field : {"title", "description"}) {
+            if (preset.toObject().value(QLatin1String(field)).isString())
+                texts << preset.toObject().value(QLatin1String(field)).toString();
+        }
+    }
+    const QJsonArray children = node.value(QLatin1String("children")).toArray();
+    for (const QJsonValue& child : children)
+        collectCatalogueTexts(child.toObject(), texts);
+}
+
+// A catalogue text made only of format, codec and measurement names ("H.264 /
+// AAC", "HD 1080p", "Xvid 854x480 / MP3") reads the same in every language and
+// falls back to itself; any other text is a word or phrase that needs a table
+// entry.
+bool isTechnicalText(const QString& text) {
+    static const QRegularExpression upperOrNumber(QStringLiteral("^[A-Z0-9.x-]+$"));
+    static const QRegularExpression digit(QStringLiteral("[0-9]"));
+    static const QStringList names{QStringLiteral("Opus"), QStringLiteral("Xvid"),
+                                   QStringLiteral("DivX"), QStringLiteral("ProRes"),
+                                   QStringLiteral("WebM"), QString::fromUtf8("μ-law"),
+                                   QStringLiteral("kHz"),  QStringLiteral("/")};
+    const QStringList tokens = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString& token : tokens) {
+        if (!upperOrNumber.match(token).hasMatch() && !digit.match(token).hasMatch() &&
+            !names.contains(token))
+            return false;
+    }
+    return !tokens.isEmpty();
+}
 
 } // namespace
 
@@ -524,4 +566,37 @@ TEST(LMFormatLocalizationTables, TranslatedTablesDifferFromEnglishWhereTheLangua
                       english->translate("Localizable", word))
                 << code.toStdString() << ": " << word;
     }
+}
+
+TEST(LMFormatLocalizationTables, EveryWordOrPhraseOfTheDefaultCatalogueHasAnEntryInEveryTable) {
+    QFile file(
+        QString::fromStdString(TestSupport::SourcePath("mediaformat/catalogue/formats.json")));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QJsonDocument catalogue = QJsonDocument::fromJson(file.readAll());
+    ASSERT_TRUE(catalogue.isObject());
+    QStringList texts;
+    collectCatalogueTexts(catalogue.object(), texts);
+    texts.removeDuplicates();
+    ASSERT_GT(texts.size(), 20);
+    for (const QString& code : kLanguageCodes) {
+        const auto table = loadTable(code);
+        ASSERT_NE(table, nullptr) << code.toStdString();
+        for (const QString& text : texts) {
+            if (isTechnicalText(text))
+                continue;
+            EXPECT_FALSE(table->translate("Localizable", text.toUtf8().constData()).isEmpty())
+                << code.toStdString() << " lacks the catalogue text \"" << text.toStdString()
+                << "\": add it to resources/*.lproj/Localizable.ts";
+        }
+    }
+}
+
+TEST(LMFormatLocalizationTables, TechnicalCatalogueTextsAreToldApartFromWords) {
+    for (const char* text :
+         {"H.264 / AAC", "HEVC 3840x2160 / AAC", "Xvid 854x480 / MP3", "HD 1080p 29.97",
+          "PCM 16-bit", "HD 96 kHz", "MP4", "3G2", "μ-law", "ProRes MXF"})
+        EXPECT_TRUE(isTechnicalText(QString::fromUtf8(text))) << text;
+    for (const char* text : {"Smartphone", "Square 1080p", "Game Console", "Formats",
+                             "MP4 file format", "HD Ready", ""})
+        EXPECT_FALSE(isTechnicalText(QString::fromUtf8(text))) << text;
 }
