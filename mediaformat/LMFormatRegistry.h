@@ -18,7 +18,7 @@ namespace Lumeran {
 enum class LMOptionList { Resolution = 0, Framerate, Quality, Samplerate, ChannelLayout };
 constexpr int LMOptionListCount = 5;
 
-struct LMCodecInfo {
+struct LMMEDIAFORMAT_EXPORT LMCodecInfo {
     std::string id;
     std::string name;
     std::string encoder; // empty for the automatic codec
@@ -40,7 +40,7 @@ struct LMCodecInfo {
     const std::string& IdAt(LMOptionList list, int index) const;
 };
 
-struct LMContainerInfo {
+struct LMMEDIAFORMAT_EXPORT LMContainerInfo {
     std::string id;
     std::string name;
     std::string muxer;

@@ -1,0 +1,11 @@
+#!/usr/bin/env bash
+# Runs every benchmark program of a build folder, one after the other.
+set -euo pipefail
+build=${1:-build}
+status=0
+for program in "$build"/bench/lmfp_bench_*; do
+    [ -x "$program" ] || continue
+    echo "== $(basename "$program")"
+    "$program" --benchmark_counters_tabular=true || status=1
+done
+exit $status

@@ -1,0 +1,70 @@
+#include "ILMArtworkImageMgr.h"
+#include "ILMFileProvider.h"
+#include "LMDefaultCatalogue.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Lumeran;
+
+namespace {
+
+std::string DefaultIcfg() {
+    return ILMFileProvider::AppendPathExtension(
+        ILMFileProvider::RemovePathExtension(LMDefaultCatalogue::Path()), "icfg");
+}
+
+std::string Write(const QTemporaryDir& dir, const QString& name, const QByteArray& data) {
+    QFile file(dir.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(data);
+    return file.fileName().toStdString();
+}
+
+} // namespace
+
+TEST(ILMArtworkImageMgrTest, DefaultConfigurationHasTabCategoryAndFormatArtwork) {
+    const auto manager = ILMArtworkImageMgr::MallocArtworkImageMgr(DefaultIcfg(), nullptr);
+    ASSERT_TRUE(manager);
+    for (const int face :
+         {ILMArtworkImageMgr::CategoryFaceIDRecentList, ILMArtworkImageMgr::CategoryFaceIDCustomize,
+          ILMArtworkImageMgr::FormatFaceIDMP4, 10, 11, 12, 13}) {
+        const auto group = manager->ArtworkGroup(face);
+        ASSERT_TRUE(group) << face;
+        EXPECT_EQ(group->FaceID(), face);
+        ASSERT_FALSE(group->ImagePaths().empty());
+        EXPECT_TRUE(QFileInfo::exists(QString::fromStdString(group->ImagePaths().front())));
+    }
+    EXPECT_FALSE(manager->ArtworkGroup(99999));
+}
+
+TEST(ILMArtworkImageMgrTest, MissingOrBrokenConfigurationGivesNoManager) {
+    QTemporaryDir dir;
+    std::shared_ptr<const ILMError> error;
+    EXPECT_FALSE(ILMArtworkImageMgr::MallocArtworkImageMgr(
+        dir.filePath(QStringLiteral("x.icfg")).toStdString(), &error));
+    EXPECT_TRUE(error);
+    EXPECT_FALSE(ILMArtworkImageMgr::MallocArtworkImageMgr(
+        Write(dir, QStringLiteral("b.icfg"), "{oops"), nullptr));
+    EXPECT_FALSE(ILMArtworkImageMgr::MallocArtworkImageMgr(
+        Write(dir, QStringLiteral("c.icfg"), R"({"x":1})"), nullptr));
+}
+
+TEST(ILMArtworkImageMgrTest, EntriesWithMissingImagesAreLeftOut) {
+    QTemporaryDir dir;
+    Write(dir, QStringLiteral("here.svg"), "<svg xmlns='http://www.w3.org/2000/svg'/>");
+    const auto path = Write(dir, QStringLiteral("a.icfg"), R"({"artwork":[
+        {"faceId":5,"images":["here.svg"]},
+        {"faceId":6,"images":["gone.svg"]},
+        {"faceId":"7","images":["here.svg"]}]})");
+    const auto manager = ILMArtworkImageMgr::MallocArtworkImageMgr(path, nullptr);
+    ASSERT_TRUE(manager);
+    EXPECT_EQ(manager->GroupCount(), 1);
+    ASSERT_TRUE(manager->ArtworkGroup(5));
+    EXPECT_EQ(manager->ArtworkGroup(5)->ImagePaths().front(),
+              dir.filePath(QStringLiteral("here.svg")).toStdString());
+    EXPECT_FALSE(manager->ArtworkGroup(6));
+}
