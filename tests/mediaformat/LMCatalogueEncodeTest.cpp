@@ -17,6 +17,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <ostream>
 
 using namespace Lumeran;
 
@@ -33,6 +34,9 @@ struct PresetCase {
     std::string path; // "Category/Format/Preset"
     std::shared_ptr<const ILMFormatPreset> preset;
 };
+
+// Test names and failure messages show the preset's path, not its bytes.
+void PrintTo(const PresetCase& presetCase, std::ostream* out) { *out << presetCase.path; }
 
 std::vector<PresetCase> CataloguePresets() {
     std::vector<PresetCase> cases;
