@@ -1,9 +1,19 @@
-// lmformat: inspect format catalogues and the presets they hold.
+// lmformat: inspect format catalogues and the presets they hold, search them,
+// and look after the recent and custom lists in the application settings.
 //
+//   lmformat [--settings FILE] COMMAND ...
 //   lmformat validate FILE
 //   lmformat tree FILE
 //   lmformat ffmpeg FILE "CATEGORY/FORMAT/PRESET"
+//   lmformat search CATALOGUE TEXT
+//   lmformat recent list | push CATALOGUE "CATEGORY/FORMAT/PRESET" | remove TITLE
+//   lmformat custom list | add CATALOGUE "CATEGORY/FORMAT/PRESET" NAME | remove NODE PRESET
+//
+// The lists live where a host keeps them: in the application settings, here the
+// default QSettings of "lmformat" by "Lumeran", or the INI file of --settings.
 
+#include "ILMAppSettings.h"
+#include "ILMFmtPresetDataSource.h"
 #include "ILMFormatNode.h"
 #include "ILMJsonReader.h"
 #include "LMFFmpegArguments.h"
@@ -15,6 +25,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <utility>
 
 using namespace Lumeran;
 
@@ -84,6 +95,13 @@ FindPreset(const std::shared_ptr<const ILMFormatNode>& root, const std::string& 
 
 using Command = std::function<int(const QStringList&)>;
 
+// A change that did not reach the store is a failure worth an exit code.
+int SettingsWritten() {
+    if (ILMAppSettings::Shared()->LastSynchronizeSucceeded())
+        return 0;
+    return Fail("could not write the settings");
+}
+
 int Validate(const QStringList& args) {
     if (args.size() != 1)
         return Fail("usage: lmformat validate FILE");
@@ -125,10 +143,130 @@ int FFmpeg(const QStringList& args) {
     return 0;
 }
 
+int Search(const QStringList& args) {
+    if (args.size() != 2)
+        return Fail("usage: lmformat search CATALOGUE TEXT");
+    std::string reason;
+    const auto root = LoadCatalogue(args.at(0).toStdString(), &reason);
+    if (!root)
+        return Fail(reason);
+    // An empty text filters nothing and so finds nothing to print.
+    const auto found =
+        ILMFmtPresetDataSource::Shared()->SearchFormatPresets(root, args.at(1).toStdString(), {});
+    if (found)
+        PrintTree(found, 0);
+    return 0;
+}
+
+int RecentList(const QStringList& args) {
+    if (!args.isEmpty())
+        return Fail("usage: lmformat recent list");
+    for (const auto& item : ILMFmtPresetDataSource::Shared()->GetRecentList())
+        Print(item->Title() + "\t" + item->Description());
+    return 0;
+}
+
+int RecentPush(const QStringList& args) {
+    if (args.size() != 2)
+        return Fail("usage: lmformat recent push CATALOGUE \"CATEGORY/FORMAT/PRESET\"");
+    std::string reason;
+    const auto root = LoadCatalogue(args.at(0).toStdString(), &reason);
+    if (!root)
+        return Fail(reason);
+    const auto [preset, node] = FindPreset(root, args.at(1).toStdString());
+    if (!preset)
+        return Fail("no preset \"" + args.at(1).toStdString() + "\" in " +
+                    args.at(0).toStdString());
+    const auto source = ILMFmtPresetDataSource::Shared();
+    if (!source->PushRecentItem(preset, node))
+        return Fail("could not record \"" + args.at(1).toStdString() + "\"");
+    source->SaveRecentList();
+    return SettingsWritten();
+}
+
+int RecentRemove(const QStringList& args) {
+    if (args.size() != 1)
+        return Fail("usage: lmformat recent remove TITLE");
+    const auto source = ILMFmtPresetDataSource::Shared();
+    if (!source->RemoveRecentItem(args.at(0).toStdString()))
+        return Fail("no recent entry \"" + args.at(0).toStdString() + "\"");
+    source->SaveRecentList();
+    return SettingsWritten();
+}
+
+int CustomList(const QStringList& args) {
+    if (!args.isEmpty())
+        return Fail("usage: lmformat custom list");
+    const auto custom = std::as_const(*ILMFmtPresetDataSource::Shared()).GetCustomList();
+    for (int i = 0; i < custom->ChildCount(); ++i) {
+        const auto node = custom->ChildAt(i);
+        for (int j = 0; j < node->FormatPresetCount(); ++j)
+            Print(node->Title() + "/" + node->FormatPresetAt(j)->Title());
+    }
+    return 0;
+}
+
+int CustomAdd(const QStringList& args) {
+    if (args.size() != 3)
+        return Fail("usage: lmformat custom add CATALOGUE \"CATEGORY/FORMAT/PRESET\" NAME");
+    std::string reason;
+    const auto root = LoadCatalogue(args.at(0).toStdString(), &reason);
+    if (!root)
+        return Fail(reason);
+    const auto [preset, node] = FindPreset(root, args.at(1).toStdString());
+    if (!preset)
+        return Fail("no preset \"" + args.at(1).toStdString() + "\" in " +
+                    args.at(0).toStdString());
+    const std::string name = args.at(2).toStdString();
+    if (name.empty())
+        return Fail("a custom preset needs a name");
+    // The data source files a copy of what it is given; name that copy's source.
+    auto named = preset->Clone();
+    named->SetTitle(name);
+    const auto source = ILMFmtPresetDataSource::Shared();
+    source->AddCustomPreset(named, node);
+    source->SaveCustomList();
+    return SettingsWritten();
+}
+
+int CustomRemove(const QStringList& args) {
+    if (args.size() != 2)
+        return Fail("usage: lmformat custom remove NODE PRESET");
+    const auto source = ILMFmtPresetDataSource::Shared();
+    const auto node = source->GetCustomList()->FindChild(args.at(0).toStdString());
+    const auto preset = node ? node->FindFormatPreset(args.at(1).toStdString()) : nullptr;
+    if (!preset || !source->RemoveCustomPreset(preset, node))
+        return Fail("no custom preset \"" + args.at(0).toStdString() + "/" +
+                    args.at(1).toStdString() + "\"");
+    source->SaveCustomList();
+    return SettingsWritten();
+}
+
+// "recent" and "custom" take a verb of their own.
+Command WithVerbs(std::map<QString, Command> verbs, std::string usage) {
+    return [verbs = std::move(verbs), usage = std::move(usage)](const QStringList& args) {
+        const auto found = args.isEmpty() ? verbs.end() : verbs.find(args.first());
+        if (found == verbs.end())
+            return Fail(usage);
+        return found->second(args.mid(1));
+    };
+}
+
 int Usage() {
-    std::fprintf(stderr, "usage: lmformat validate FILE\n"
-                         "       lmformat tree FILE\n"
-                         "       lmformat ffmpeg FILE \"CATEGORY/FORMAT/PRESET\"\n");
+    std::fprintf(stderr,
+                 "usage: lmformat [--settings FILE] COMMAND ...\n"
+                 "       lmformat validate FILE\n"
+                 "       lmformat tree FILE\n"
+                 "       lmformat ffmpeg FILE \"CATEGORY/FORMAT/PRESET\"\n"
+                 "       lmformat search CATALOGUE TEXT\n"
+                 "       lmformat recent list\n"
+                 "       lmformat recent push CATALOGUE \"CATEGORY/FORMAT/PRESET\"\n"
+                 "       lmformat recent remove TITLE\n"
+                 "       lmformat custom list\n"
+                 "       lmformat custom add CATALOGUE \"CATEGORY/FORMAT/PRESET\" NAME\n"
+                 "       lmformat custom remove NODE PRESET\n"
+                 "--settings FILE keeps the recent and custom lists in that INI file instead of\n"
+                 "the application settings of lmformat.\n");
     return 2;
 }
 
@@ -136,13 +274,39 @@ int Usage() {
 
 int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("Lumeran"));
     QCoreApplication::setApplicationName(QStringLiteral("lmformat"));
     QStringList args = QCoreApplication::arguments().mid(1);
+    // Global options come before the command, and must be in place before the
+    // data source is first made: it reads the lists from the settings then.
+    while (!args.isEmpty() && args.first().startsWith(QLatin1String("--"))) {
+        const QString option = args.takeFirst();
+        if (option == QLatin1String("--settings") && !args.isEmpty() && !args.first().isEmpty())
+            ILMAppSettings::UseSettingsFile(args.takeFirst().toStdString());
+        else if (option.startsWith(QLatin1String("--settings=")) && option.size() > 11)
+            ILMAppSettings::UseSettingsFile(option.mid(11).toStdString());
+        else
+            return Usage();
+    }
     if (args.isEmpty())
         return Usage();
-    const std::map<QString, Command> commands{{QStringLiteral("validate"), Validate},
-                                              {QStringLiteral("tree"), Tree},
-                                              {QStringLiteral("ffmpeg"), FFmpeg}};
+    const std::map<QString, Command> commands{
+        {QStringLiteral("validate"), Validate},
+        {QStringLiteral("tree"), Tree},
+        {QStringLiteral("ffmpeg"), FFmpeg},
+        {QStringLiteral("search"), Search},
+        {QStringLiteral("recent"),
+         WithVerbs({{QStringLiteral("list"), RecentList},
+                    {QStringLiteral("push"), RecentPush},
+                    {QStringLiteral("remove"), RecentRemove}},
+                   "usage: lmformat recent list | push CATALOGUE \"CATEGORY/FORMAT/PRESET\" | "
+                   "remove TITLE")},
+        {QStringLiteral("custom"),
+         WithVerbs({{QStringLiteral("list"), CustomList},
+                    {QStringLiteral("add"), CustomAdd},
+                    {QStringLiteral("remove"), CustomRemove}},
+                   "usage: lmformat custom list | add CATALOGUE \"CATEGORY/FORMAT/PRESET\" NAME | "
+                   "remove NODE PRESET")}};
     const auto found = commands.find(args.takeFirst());
     if (found == commands.end())
         return Usage();

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "ILMArtworkImageMgr.h"
+#include "ILMFmtPresetDataSource.h"
+#include "LMCoreExport.h"
+
+#include <future>
+#include <thread>
+
+namespace Lumeran {
+
+// The preset data source. Hosts reach it through ILMFmtPresetDataSource::Shared();
+// this header is not installed. Tests, tools and benchmarks make their own
+// instances to keep each one over its own settings store.
+//
+// Destroying an instance whose load has not been waited for ends the process, as
+// destroying any running std::thread does; call WaitForLoadingComplete() first.
+class LMCORE_EXPORT LMFmtPresetDataSource final : public ILMFmtPresetDataSource {
+public:
+    // Reads the recent and custom trees from ILMAppSettings::Shared().
+    LMFmtPresetDataSource();
+    ~LMFmtPresetDataSource();
+    LMFmtPresetDataSource(const LMFmtPresetDataSource&) = delete;
+    LMFmtPresetDataSource& operator=(const LMFmtPresetDataSource&) = delete;
+
+    void AsyncLoadExternalDataSource(const std::string& path,
+                                     std::function<void()> completion) override;
+    void WaitForLoadingComplete() override;
+    std::shared_ptr<ILMFormatNode> GetExternalFormatPresets() override;
+    std::shared_ptr<const ILMFmtPresetRecentItem> GetCurrentPreset() const override;
+    std::shared_ptr<const ILMFmtPresetRecentItem> GetDefaultPreset() const override;
+    RecentList GetRecentList() const override;
+    bool PushRecentItem(std::shared_ptr<const ILMFmtPresetRecentItem> item) override;
+    bool PushRecentItem(std::shared_ptr<const ILMFormatPreset> preset,
+                        std::shared_ptr<const ILMFormatNode> node) override;
+    bool RemoveRecentItem(const std::string& title) override;
+    bool RemoveRecentItem(std::shared_ptr<const ILMFmtPresetRecentItem> item) override;
+    void SaveRecentList() const override;
+    std::shared_ptr<ILMFormatNode> GetCustomList() override;
+    std::shared_ptr<const ILMFormatNode> GetCustomList() const override;
+    void AddCustomPreset(std::shared_ptr<const ILMFormatPreset> preset,
+                         std::shared_ptr<const ILMFormatNode> node) override;
+    bool RemoveCustomPreset(std::shared_ptr<const ILMFormatPreset> preset,
+                            std::shared_ptr<const ILMFormatNode> node) override;
+    void SaveCustomList() const override;
+    std::shared_ptr<ILMArtworkImageGroup> GetArtworkGroup(int faceID) const override;
+    std::shared_ptr<ILMFormatNode>
+    SearchFormatPresets(std::shared_ptr<const ILMFormatNode> node, const std::string& key,
+                        std::shared_ptr<ILMFormatNode> parent) override;
+    RecentList SearchFormatPresets(const RecentList& list, const std::string& key) override;
+
+    // The "Recent" tree behind the recent list (oldest child first), as it will
+    // be saved; for inspection by tools and tests.
+    std::shared_ptr<const ILMFormatNode> GetRecentRoot() const { return m_recentRoot; }
+
+private:
+    std::shared_ptr<const ILMFmtPresetRecentItem> MakeDefaultPreset() const;
+    std::shared_ptr<ILMFormatNode> LoadNode(const std::string& key) const;
+    void SaveNode(std::shared_ptr<const ILMFormatNode> node, const std::string& key) const;
+    std::string GetRecentNodeKey() const;
+    std::string GetCustomNodeKey() const;
+    std::shared_ptr<ILMFormatNode> MakeDefaultRecentNode() const;
+    std::shared_ptr<ILMFormatNode> MakeDefaultCustomNode() const;
+    RecentList MakeRecentList(std::shared_ptr<const ILMFormatNode> recentNode) const;
+
+    std::shared_ptr<ILMFormatNode> m_customRoot;
+    std::shared_ptr<ILMFormatNode> m_externalRoot;
+    std::shared_ptr<ILMFormatNode> m_recentRoot;
+    RecentList m_recentList;
+    std::shared_ptr<const ILMFmtPresetRecentItem> m_defaultPreset;
+    std::shared_ptr<ILMArtworkImageMgr> m_artworkMgr;
+    // The load's result. The notifier thread waits on a copy of it rather than on
+    // this object: get() on one future object while another thread still waits
+    // on that same object is a data race (and may free the state under it).
+    std::shared_future<std::shared_ptr<ILMFormatNode>> m_pending;
+    std::thread m_loader;
+};
+
+} // namespace Lumeran

@@ -1,0 +1,168 @@
+#include "LMCoreTestSupport.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <cerrno>
+#include <chrono>
+#include <thread>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Lumeran::TestSupport {
+
+std::shared_ptr<ILMFormatPreset> MakePreset(const std::string& format, const std::string& title,
+                                            const std::string& description) {
+    auto preset = ILMFormatPreset::MallocFormatPreset(format, title);
+    EXPECT_TRUE(preset) << "unknown container " << format;
+    if (preset && !description.empty())
+        preset->SetDescription(description);
+    return preset;
+}
+
+std::shared_ptr<ILMFormatNode> MakeNode(const std::string& title, const std::string& description,
+                                        int faceID) {
+    auto node = ILMFormatNode::MallocFormatNode(std::shared_ptr<ILMFormatNode>());
+    node->SetTitle(title);
+    node->SetDescription(description);
+    node->SetFaceID(faceID);
+    return node;
+}
+
+std::shared_ptr<ILMFormatNode> MakeFormat(const std::string& title, const std::string& description,
+                                          int faceID, const std::string& format,
+                                          const QStringList& presetTitles) {
+    auto node = MakeNode(title, description, faceID);
+    for (const QString& presetTitle : presetTitles)
+        node->AddFormatPreset(MakePreset(format, presetTitle.toStdString()));
+    return node;
+}
+
+qint64 WriteLargeCatalogue(const QString& path, int formats, int presetsPerFormat) {
+    static const char* const qualities[] = {"high", "medium", "low"};
+    static const char* const resolutions[] = {"1920x1080", "1280x720", "854x480"};
+    QJsonArray formatNodes;
+    for (int f = 0; f < formats; ++f) {
+        QJsonArray presets;
+        for (int p = 0; p < presetsPerFormat; ++p) {
+            const int pick = (f + p) % 3;
+            presets.append(QJsonObject{
+                {QStringLiteral("title"), QStringLiteral("Preset %1 of format %2").arg(p).arg(f)},
+                {QStringLiteral("description"),
+                 QStringLiteral("H.264 %1 / AAC, generated for load tests")
+                     .arg(QLatin1StringView(resolutions[pick]))},
+                {QStringLiteral("faceId"), 100},
+                {QStringLiteral("format"), QStringLiteral("mp4")},
+                {QStringLiteral("video"),
+                 QJsonObject{{QStringLiteral("codec"), QStringLiteral("h264")},
+                             {QStringLiteral("resolution"), QLatin1StringView(resolutions[pick])},
+                             {QStringLiteral("quality"), QLatin1StringView(qualities[pick])}}},
+                {QStringLiteral("audio"),
+                 QJsonObject{{QStringLiteral("codec"), QStringLiteral("aac")},
+                             {QStringLiteral("quality"), QLatin1StringView(qualities[pick])}}}});
+        }
+        formatNodes.append(
+            QJsonObject{{QStringLiteral("title"), QStringLiteral("Format %1").arg(f)},
+                        {QStringLiteral("faceId"), 100},
+                        {QStringLiteral("presets"), presets}});
+    }
+    const QJsonObject category{{QStringLiteral("title"), QStringLiteral("Generated")},
+                               {QStringLiteral("faceId"), 10},
+                               {QStringLiteral("children"), formatNodes}};
+    const QJsonObject root{{QStringLiteral("title"), QStringLiteral("Formats")},
+                           {QStringLiteral("children"), QJsonArray{category}}};
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return -1;
+    file.write(QJsonDocument(root).toJson(QJsonDocument::Indented));
+    return file.size();
+}
+
+bool ClaimFirstUseOfSharedDataSource() {
+    static bool used = false;
+    const bool first = !used;
+    used = true;
+    return first;
+}
+
+LoadGate::LoadGate(const QString& name) {
+    m_path = m_dir.filePath(name + QStringLiteral(".json"));
+    m_valid = m_dir.isValid() && ::mkfifo(QFile::encodeName(m_path).constData(), 0600) == 0;
+}
+
+// A load still held must not outlive the test: end it with an empty file.
+LoadGate::~LoadGate() {
+    Release(QByteArray());
+}
+
+std::string LoadGate::Path() const {
+    return m_path.toStdString();
+}
+
+QString LoadGate::DirPath() const {
+    return m_dir.path();
+}
+
+bool LoadGate::Release(const QByteArray& text) {
+    if (!m_valid || m_released)
+        return false;
+    m_released = true;
+    // Opening a pipe for writing waits for its reader; poll without blocking so a
+    // load that never started cannot hang the test.
+    int fd = -1;
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    while (fd < 0 && std::chrono::steady_clock::now() < deadline) {
+        fd = ::open(QFile::encodeName(m_path).constData(), O_WRONLY | O_NONBLOCK);
+        if (fd < 0 && errno == ENXIO)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        else if (fd < 0)
+            return false;
+    }
+    if (fd < 0)
+        return false;
+    ::fcntl(fd, F_SETFL, ::fcntl(fd, F_GETFL) & ~O_NONBLOCK);
+    const char* data = text.constData();
+    qsizetype left = text.size();
+    while (left > 0) {
+        const ssize_t written = ::write(fd, data, static_cast<std::size_t>(left));
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            break;
+        data += written;
+        left -= written;
+    }
+    ::close(fd);
+    return left == 0;
+}
+
+std::mutex LogCapture::s_mutex;
+QStringList LogCapture::s_lines;
+
+LogCapture::LogCapture() {
+    {
+        std::lock_guard lock(s_mutex);
+        s_lines.clear();
+    }
+    m_previous = qInstallMessageHandler(&LogCapture::Handler);
+}
+
+LogCapture::~LogCapture() {
+    qInstallMessageHandler(m_previous);
+}
+
+QStringList LogCapture::Lines() const {
+    std::lock_guard lock(s_mutex);
+    return s_lines;
+}
+
+void LogCapture::Handler(QtMsgType, const QMessageLogContext&, const QString& message) {
+    std::lock_guard lock(s_mutex);
+    s_lines << message;
+}
+
+} // namespace Lumeran::TestSupport
