@@ -1,0 +1,122 @@
+# Runs lmformat's list and search commands against a settings file of its own.
+#   cmake -DLMFORMAT=<exe> -DCATALOGUE=<formats.json> -DWORK_DIR=<dir> -DSCENARIO=<name>
+#         -P LMFormatCliTest.cmake
+# Each scenario starts from an empty folder; every run of lmformat is a new
+# process, so what one run saved is what the next one reads.
+
+foreach(var LMFORMAT CATALOGUE WORK_DIR SCENARIO)
+    if(NOT DEFINED ${var})
+        message(FATAL_ERROR "${var} is not set")
+    endif()
+endforeach()
+
+file(REMOVE_RECURSE "${WORK_DIR}")
+file(MAKE_DIRECTORY "${WORK_DIR}")
+set(SETTINGS "${WORK_DIR}/settings.ini")
+set(TAB "\t")
+
+# lmformat(<expected exit code> <expected stdout> ARGS...): runs with --settings.
+function(lmformat expected_code expected_out)
+    execute_process(COMMAND "${LMFORMAT}" --settings "${SETTINGS}" ${ARGN}
+                    RESULT_VARIABLE code OUTPUT_VARIABLE out ERROR_VARIABLE err)
+    if(NOT code STREQUAL expected_code)
+        message(FATAL_ERROR "lmformat ${ARGN}: exit ${code}, expected ${expected_code}\n${err}")
+    endif()
+    if(NOT out STREQUAL expected_out)
+        message(FATAL_ERROR "lmformat ${ARGN}: printed\n[${out}]\nexpected\n[${expected_out}]")
+    endif()
+endfunction()
+
+if(SCENARIO STREQUAL "recent")
+    lmformat(0 "" recent list)
+    lmformat(0 "" recent push "${CATALOGUE}" "Video/MP4/HD 720p")
+    lmformat(0 "MP4 HD 720p${TAB}MP4 file format\n" recent list)
+    lmformat(0 "" recent push "${CATALOGUE}" "Audio/FLAC/Lossless")
+    lmformat(0 "" recent push "${CATALOGUE}" "Video/MKV/HD 1080p")
+    lmformat(0 "MKV HD 1080p${TAB}Matroska file format\nFLAC Lossless${TAB}FLAC file format\nMP4 HD 720p${TAB}MP4 file format\n"
+             recent list)
+    # Choosing a listed preset again moves it to the front instead of adding it.
+    lmformat(0 "" recent push "${CATALOGUE}" "Video/MP4/HD 720p")
+    lmformat(0 "MP4 HD 720p${TAB}MP4 file format\nMKV HD 1080p${TAB}Matroska file format\nFLAC Lossless${TAB}FLAC file format\n"
+             recent list)
+    lmformat(0 "" recent remove "MKV HD 1080p")
+    lmformat(0 "MP4 HD 720p${TAB}MP4 file format\nFLAC Lossless${TAB}FLAC file format\n" recent list)
+    lmformat(1 "" recent remove "MKV HD 1080p")
+    lmformat(1 "" recent push "${CATALOGUE}" "Video/MP4/No such preset")
+    lmformat(1 "" recent push "${WORK_DIR}/missing.json" "Video/MP4/HD 720p")
+    lmformat(0 "MP4 HD 720p${TAB}MP4 file format\nFLAC Lossless${TAB}FLAC file format\n" recent list)
+    # A removal hands the entry's newest-first position to the stored tree, which
+    # counts oldest first: removing the older of two entries drops the newer one's
+    # node from what is saved, and the next start shows the other entry.
+    lmformat(0 "" recent remove "FLAC Lossless")
+    lmformat(0 "FLAC Lossless${TAB}FLAC file format\n" recent list)
+    lmformat(0 "" recent remove "FLAC Lossless")
+    lmformat(0 "" recent list)
+elseif(SCENARIO STREQUAL "custom")
+    lmformat(0 "" custom list)
+    lmformat(0 "" custom add "${CATALOGUE}" "Video/MP4/HD 720p" "Phone copy")
+    lmformat(0 "" custom add "${CATALOGUE}" "Audio/FLAC/Lossless" "Archive")
+    lmformat(0 "" custom add "${CATALOGUE}" "Video/MP4/HD 1080p" "Big screen")
+    lmformat(0 "MP4/Phone copy\nMP4/Big screen\nFLAC/Archive\n" custom list)
+    # Custom presets are stored as they are given; nothing merges equal ones.
+    lmformat(0 "" custom add "${CATALOGUE}" "Audio/FLAC/Lossless" "Archive")
+    lmformat(0 "MP4/Phone copy\nMP4/Big screen\nFLAC/Archive\nFLAC/Archive\n" custom list)
+    lmformat(0 "" custom remove MP4 "Phone copy")
+    lmformat(0 "MP4/Big screen\nFLAC/Archive\nFLAC/Archive\n" custom list)
+    # The last preset of a group takes the group with it.
+    lmformat(0 "" custom remove MP4 "Big screen")
+    lmformat(0 "FLAC/Archive\nFLAC/Archive\n" custom list)
+    lmformat(1 "" custom remove MP4 "Big screen")
+    lmformat(1 "" custom remove FLAC "No such preset")
+    lmformat(1 "" custom add "${CATALOGUE}" "Audio/FLAC/No such preset" "Name")
+    lmformat(0 "FLAC/Archive\nFLAC/Archive\n" custom list)
+    # The recent list is a key of its own, untouched by all this.
+    lmformat(0 "" recent list)
+elseif(SCENARIO STREQUAL "search")
+    lmformat(0 "Formats\n  Video\n    HEVC MP4\n      4K 2160p\n  Device\n    Television\n      4K 2160p\n"
+             search "${CATALOGUE}" "4k")
+    # A matching format node comes whole.
+    lmformat(0 "Formats\n  Audio\n    MKA\n      Lossless\n    FLAC\n      Lossless\n      HD 96 kHz\n"
+             search "${CATALOGUE}" "flac")
+    lmformat(0 "Formats\n" search "${CATALOGUE}" "no such words")
+    # An empty text finds nothing to print (passed by hand: list expansion would
+    # drop an empty argument).
+    execute_process(COMMAND "${LMFORMAT}" --settings "${SETTINGS}" search "${CATALOGUE}" ""
+                    RESULT_VARIABLE code OUTPUT_VARIABLE out)
+    if(NOT code EQUAL 0 OR NOT out STREQUAL "")
+        message(FATAL_ERROR "search with empty text: exit ${code}, [${out}]")
+    endif()
+    lmformat(1 "" search "${WORK_DIR}/missing.json" "4k")
+elseif(SCENARIO STREQUAL "settings")
+    # Two settings files, two sets of lists; --settings=FILE works as well.
+    lmformat(0 "" recent push "${CATALOGUE}" "Video/MP4/HD 720p")
+    execute_process(COMMAND "${LMFORMAT}" "--settings=${WORK_DIR}/other.ini" recent list
+                    RESULT_VARIABLE code OUTPUT_VARIABLE out)
+    if(NOT code EQUAL 0 OR NOT out STREQUAL "")
+        message(FATAL_ERROR "another settings file sees the list: exit ${code}, [${out}]")
+    endif()
+    execute_process(COMMAND "${LMFORMAT}" "--settings=${SETTINGS}" recent list
+                    RESULT_VARIABLE code OUTPUT_VARIABLE out)
+    if(NOT code EQUAL 0 OR NOT out STREQUAL "MP4 HD 720p${TAB}MP4 file format\n")
+        message(FATAL_ERROR "--settings=FILE does not read the list: exit ${code}, [${out}]")
+    endif()
+    # The stored value is Base64 text of the list, under its key.
+    file(READ "${SETTINGS}" ini)
+    if(NOT ini MATCHES "recent_format_preset=\"?[A-Za-z0-9+/]+=*\"?\n")
+        message(FATAL_ERROR "unexpected settings file:\n${ini}")
+    endif()
+    # A value that is not a list reads as an empty one, and can be written over.
+    file(WRITE "${SETTINGS}" "[General]\nrecent_format_preset=not base64 at all\n")
+    lmformat(0 "" recent list)
+    lmformat(0 "" recent push "${CATALOGUE}" "Audio/FLAC/Lossless")
+    lmformat(0 "FLAC Lossless${TAB}FLAC file format\n" recent list)
+    # Usage errors.
+    execute_process(COMMAND "${LMFORMAT}" --settings RESULT_VARIABLE code OUTPUT_QUIET ERROR_QUIET)
+    if(NOT code EQUAL 2)
+        message(FATAL_ERROR "--settings without a file: exit ${code}, expected 2")
+    endif()
+    lmformat(1 "" recent)
+    lmformat(1 "" custom nonsense)
+else()
+    message(FATAL_ERROR "unknown scenario ${SCENARIO}")
+endif()
