@@ -15,8 +15,31 @@ namespace Lumeran {
 
 namespace {
 
+char FoldAscii(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+// Whether ToLower(text) contains lowerKey (itself already lower-cased). Search
+// runs at every keystroke over every preset, so ASCII text (nearly all of it) is
+// folded on the fly, byte by byte exactly as ToLower folds it, instead of being
+// copied first; other text goes through ToLower itself.
 bool Contains(const std::string& text, const std::string& lowerKey) {
-    return ILMStringHelper::ToLower(text).find(lowerKey) != std::string::npos;
+    const bool ascii =
+        std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
+    if (!ascii)
+        return ILMStringHelper::ToLower(text).find(lowerKey) != std::string::npos;
+    const std::size_t n = text.size();
+    const std::size_t m = lowerKey.size();
+    if (m > n)
+        return false;
+    for (std::size_t i = 0; i + m <= n; ++i) {
+        std::size_t j = 0;
+        while (j < m && FoldAscii(text[i + j]) == lowerKey[j])
+            ++j;
+        if (j == m)
+            return true;
+    }
+    return false;
 }
 
 std::shared_ptr<ILMFormatNode> MakeRootNode(const std::string& title,

@@ -4,6 +4,7 @@
 #include "ILMBase64Codec.h"
 #include "ILMJsonReader.h"
 #include "ILMJsonWriter.h"
+#include "ILMStringHelper.h"
 #include "LMCoreTestSupport.h"
 #include "LMDefaultCatalogue.h"
 #include "LMTestEnvironment.h"
@@ -19,6 +20,7 @@
 #include <atomic>
 #include <chrono>
 #include <future>
+#include <random>
 #include <thread>
 
 using namespace Lumeran;
@@ -952,6 +954,45 @@ TEST_F(LMFmtPresetDataSourceTest, SearchFoldsCaseBeyondAscii) {
     node->AddFormatPreset(MakePreset("wav", "Qualite simple"));
     const auto result = source->SearchFormatPresets(node, "qualité", nullptr);
     EXPECT_EQ(PresetTitles(result), (std::vector<std::string>{"QUALITÉ SUPÉRIEURE"}));
+}
+
+TEST_F(LMFmtPresetDataSourceTest, SearchFindsExactlyWhatLowerCasedSubstringSearchFinds) {
+    // Random short texts over a small alphabet (so that keys often hit), some
+    // with non-ASCII letters; every key is checked against the plain rule.
+    const auto source = MakeSource();
+    std::mt19937 random(20240611);
+    const std::vector<std::string> letters{"a", "B", "b", "A", " ", "7", "@",
+                                           "`", "[", "{", "é", "É", "ß"};
+    const auto text = [&](int maxLength) {
+        std::string result;
+        const int length = std::uniform_int_distribution<int>(0, maxLength)(random);
+        for (int i = 0; i < length; ++i)
+            result +=
+                letters[std::uniform_int_distribution<std::size_t>(0, letters.size() - 1)(random)];
+        return result;
+    };
+    List list;
+    for (int i = 0; i < 300; ++i) {
+        auto node = MakeNode(text(6), text(8));
+        auto preset = MakePreset("mp4", text(8));
+        node->AddFormatPreset(preset);
+        list.push_back(ILMFmtPresetRecentItem::MallocFmtPresetRecentItem(preset, node));
+    }
+    const auto matches = [](const std::string& haystack, const std::string& key) {
+        return ILMStringHelper::ToLower(haystack).find(ILMStringHelper::ToLower(key)) !=
+               std::string::npos;
+    };
+    for (int k = 0; k < 200; ++k) {
+        std::string key = text(3);
+        if (key.empty())
+            key = "b";
+        List expected;
+        for (const auto& entry : list) {
+            if (matches(entry->Title(), key) || matches(entry->Description(), key))
+                expected.push_back(entry);
+        }
+        EXPECT_EQ(source->SearchFormatPresets(list, key), expected) << key;
+    }
 }
 
 TEST_F(LMFmtPresetDataSourceTest, ListSearchMatchesTitleOrDescriptionAndReturnsTheSameEntries) {
