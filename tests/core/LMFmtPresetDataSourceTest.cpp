@@ -30,6 +30,8 @@ using Clock = std::chrono::steady_clock;
 namespace {
 
 constexpr const char* kRecentKey = "recent_format_preset";
+// How long a call that returns at once may seem to take on a loaded machine.
+constexpr auto kBusyMachineSlack = std::chrono::milliseconds(50);
 constexpr const char* kCustomKey = "custom_format_preset";
 
 using Item = std::shared_ptr<const ILMFmtPresetRecentItem>;
@@ -160,8 +162,10 @@ TEST_F(LMFmtPresetDataSourceTest, ExternalPresetsAreEmptyWhileLoadingAndTheTreeA
     const auto elapsed = Clock::now() - start;
     EXPECT_FALSE(whileLoading);
     EXPECT_EQ(completion.calls.load(), 0);
-    // One millisecond of waiting, with room for a busy machine.
-    EXPECT_LT(elapsed, std::chrono::milliseconds(20));
+    // One millisecond of waiting. Right after two threads start, a busy 2-core
+    // machine was seen to hold the caller back ~30 ms whatever it did; the load
+    // itself is held until the gate opens, so waiting on it would never end.
+    EXPECT_LT(elapsed, kBusyMachineSlack);
 
     ASSERT_TRUE(gate.Release(DefaultCatalogueText()));
     ASSERT_TRUE(completion.WaitFor(std::chrono::seconds(30)));
@@ -257,7 +261,7 @@ TEST_F(LMFmtPresetDataSourceTest,
     auto start = Clock::now();
     source->WaitForLoadingComplete();
     source->WaitForLoadingComplete();
-    EXPECT_LT(Clock::now() - start, std::chrono::milliseconds(20));
+    EXPECT_LT(Clock::now() - start, kBusyMachineSlack);
 
     Completion completion;
     source->AsyncLoadExternalDataSource(LMDefaultCatalogue::Path(), completion.Callback());
@@ -266,7 +270,7 @@ TEST_F(LMFmtPresetDataSourceTest,
     EXPECT_EQ(completion.calls.load(), 1);
     start = Clock::now();
     source->WaitForLoadingComplete();
-    EXPECT_LT(Clock::now() - start, std::chrono::milliseconds(20));
+    EXPECT_LT(Clock::now() - start, kBusyMachineSlack);
     EXPECT_EQ(completion.calls.load(), 1);
     EXPECT_TRUE(source->GetExternalFormatPresets());
 }
@@ -333,7 +337,7 @@ TEST_F(LMFmtPresetDataSourceTest,
     // leave room for that but not for waiting on the parse, which takes
     // hundreds of milliseconds here.
     EXPECT_LT(p90, std::chrono::milliseconds(5)) << us(p90) << " us";
-    EXPECT_LT(longest, std::chrono::milliseconds(50)) << us(longest) << " us";
+    EXPECT_LT(longest, kBusyMachineSlack) << us(longest) << " us";
     RecordProperty("calls_while_loading", static_cast<int>(whileLoading.size()));
     RecordProperty("p90_call_us", us(p90));
     RecordProperty("longest_call_us", us(longest));
