@@ -1,7 +1,7 @@
 // lmformat: inspect format catalogues and the presets they hold, search them,
 // and look after the recent and custom lists in the application settings.
 //
-//   lmformat [--settings FILE] COMMAND ...
+//   lmformat [--settings FILE] [--language CODE] COMMAND ...
 //   lmformat validate FILE
 //   lmformat tree FILE
 //   lmformat ffmpeg FILE "CATEGORY/FORMAT/PRESET"
@@ -11,12 +11,15 @@
 //
 // The lists live where a host keeps them: in the application settings, here the
 // default QSettings of "lmformat" by "Lumeran", or the INI file of --settings.
+// With --language, tree and search print titles and descriptions as the popup
+// shows them in that language (en, ja, zh-Hans, fr, de, it, es, pt-BR).
 
 #include "ILMAppSettings.h"
 #include "ILMFmtPresetDataSource.h"
 #include "ILMFormatNode.h"
 #include "ILMJsonReader.h"
 #include "LMFFmpegArguments.h"
+#include "LMFormatInternationalizationMgr.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -53,11 +56,31 @@ std::shared_ptr<ILMFormatNode> LoadCatalogue(const std::string& path, std::strin
     return root;
 }
 
+// Set by --language: titles and descriptions go through the localization
+// manager, and each line carries the description after a tab.
+bool g_localized = false;
+
+std::string Localized(const std::string& text) {
+    if (!g_localized || text.empty())
+        return text;
+    return LMFormatInternationalizationMgr::sharedObject()
+        ->stringForKey(QString::fromStdString(text))
+        .toStdString();
+}
+
+std::string Line(const std::string& title, const std::string& description) {
+    if (!g_localized || description.empty())
+        return Localized(title);
+    return Localized(title) + "\t" + Localized(description);
+}
+
 void PrintTree(const std::shared_ptr<const ILMFormatNode>& node, int depth) {
     const std::string indent(static_cast<std::size_t>(depth) * 2, ' ');
-    Print(indent + node->Title());
-    for (int i = 0; i < node->FormatPresetCount(); ++i)
-        Print(indent + "  " + node->FormatPresetAt(i)->Title());
+    Print(indent + Line(node->Title(), node->Description()));
+    for (int i = 0; i < node->FormatPresetCount(); ++i) {
+        const auto preset = node->FormatPresetAt(i);
+        Print(indent + "  " + Line(preset->Title(), preset->Description()));
+    }
     for (int i = 0; i < node->ChildCount(); ++i)
         PrintTree(node->ChildAt(i), depth + 1);
 }
@@ -254,7 +277,7 @@ Command WithVerbs(std::map<QString, Command> verbs, std::string usage) {
 
 int Usage() {
     std::fprintf(stderr,
-                 "usage: lmformat [--settings FILE] COMMAND ...\n"
+                 "usage: lmformat [--settings FILE] [--language CODE] COMMAND ...\n"
                  "       lmformat validate FILE\n"
                  "       lmformat tree FILE\n"
                  "       lmformat ffmpeg FILE \"CATEGORY/FORMAT/PRESET\"\n"
@@ -279,14 +302,26 @@ int main(int argc, char** argv) {
     QStringList args = QCoreApplication::arguments().mid(1);
     // Global options come before the command, and must be in place before the
     // data source is first made: it reads the lists from the settings then.
+    QString languageCode;
     while (!args.isEmpty() && args.first().startsWith(QLatin1String("--"))) {
         const QString option = args.takeFirst();
         if (option == QLatin1String("--settings") && !args.isEmpty() && !args.first().isEmpty())
             ILMAppSettings::UseSettingsFile(args.takeFirst().toStdString());
         else if (option.startsWith(QLatin1String("--settings=")) && option.size() > 11)
             ILMAppSettings::UseSettingsFile(option.mid(11).toStdString());
+        else if (option == QLatin1String("--language") && !args.isEmpty())
+            languageCode = args.takeFirst();
         else
             return Usage();
+    }
+    if (!languageCode.isEmpty()) {
+        auto* manager = LMFormatInternationalizationMgr::sharedObject();
+        const QString name = manager->languageWithCode(languageCode);
+        if (manager->codeWithLanguage(name) != languageCode)
+            return Fail("unknown language code \"" + languageCode.toStdString() +
+                        "\" (en, ja, zh-Hans, fr, de, it, es, pt-BR)");
+        manager->setLanguage(name);
+        g_localized = true;
     }
     if (args.isEmpty())
         return Usage();
