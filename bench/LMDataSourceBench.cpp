@@ -38,11 +38,7 @@ QString TempPath(const QString& name) {
 
 std::shared_ptr<ILMFormatNode> Node(const std::string& title, const std::string& description,
                                     int faceID) {
-    auto node = ILMFormatNode::MallocFormatNode(std::shared_ptr<ILMFormatNode>());
-    node->SetTitle(title);
-    node->SetDescription(description);
-    node->SetFaceID(faceID);
-    return node;
+    return ILMFormatNode::MallocFormatNode(title, description, faceID);
 }
 
 // ---- Search ------------------------------------------------------------------------

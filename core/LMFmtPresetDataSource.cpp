@@ -42,15 +42,6 @@ bool Contains(const std::string& text, const std::string& lowerKey) {
     return false;
 }
 
-std::shared_ptr<ILMFormatNode> MakeRootNode(const std::string& title,
-                                            const std::string& description, int faceID) {
-    auto node = ILMFormatNode::MallocFormatNode(std::shared_ptr<ILMFormatNode>());
-    node->SetTitle(title);
-    node->SetDescription(description);
-    node->SetFaceID(faceID);
-    return node;
-}
-
 // Runs on the std::async worker: the whole parse stays off the caller's thread.
 std::shared_ptr<ILMFormatNode> LoadExternalTree(const std::string& path) {
     const auto json = ILMJsonReader::ReadJsonFile(path, nullptr);
@@ -168,11 +159,13 @@ std::string LMFmtPresetDataSource::GetCustomNodeKey() const {
 }
 
 std::shared_ptr<ILMFormatNode> LMFmtPresetDataSource::MakeDefaultRecentNode() const {
-    return MakeRootNode("Recent", "Recent Selection", ILMArtworkImageMgr::CategoryFaceIDRecentList);
+    return ILMFormatNode::MallocFormatNode("Recent", "Recent Selection",
+                                           ILMArtworkImageMgr::CategoryFaceIDRecentList);
 }
 
 std::shared_ptr<ILMFormatNode> LMFmtPresetDataSource::MakeDefaultCustomNode() const {
-    return MakeRootNode("Custom", "Custom Preset", ILMArtworkImageMgr::CategoryFaceIDCustomize);
+    return ILMFormatNode::MallocFormatNode("Custom", "Custom Preset",
+                                           ILMArtworkImageMgr::CategoryFaceIDCustomize);
 }
 
 // ---- Recent list -----------------------------------------------------------------

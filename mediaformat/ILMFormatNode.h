@@ -57,6 +57,9 @@ public:
     virtual std::shared_ptr<ILMFormatNode> Parent() const = 0;
 
     static std::shared_ptr<ILMFormatNode> MallocFormatNode(std::shared_ptr<ILMFormatNode> parent);
+    // A new node without a parent, with its attributes set.
+    static std::shared_ptr<ILMFormatNode>
+    MallocFormatNode(const std::string& title, const std::string& description, int faceID);
     // A tree from its JSON form (a catalogue file or a stored list). Anything it
     // cannot read (wrong types, unknown container, codec or option ids, texts
     // over MaxTextLength, nesting over MaxDepth) gives an empty pointer and one

@@ -21,6 +21,16 @@ ILMFormatNode::MallocFormatNode(std::shared_ptr<ILMFormatNode> parent) {
     return node;
 }
 
+std::shared_ptr<ILMFormatNode> ILMFormatNode::MallocFormatNode(const std::string& title,
+                                                               const std::string& description,
+                                                               int faceID) {
+    auto node = std::make_shared<LMFormatNode>();
+    node->SetTitle(title);
+    node->SetDescription(description);
+    node->SetFaceID(faceID);
+    return node;
+}
+
 std::shared_ptr<ILMFormatNode>
 ILMFormatNode::MallocFormatNode(const std::shared_ptr<const ILMJsonValue>& json) {
     if (!json)

@@ -26,11 +26,7 @@ std::shared_ptr<ILMFormatPreset> MakePreset(const std::string& format, const std
 
 std::shared_ptr<ILMFormatNode> MakeNode(const std::string& title, const std::string& description,
                                         int faceID) {
-    auto node = ILMFormatNode::MallocFormatNode(std::shared_ptr<ILMFormatNode>());
-    node->SetTitle(title);
-    node->SetDescription(description);
-    node->SetFaceID(faceID);
-    return node;
+    return ILMFormatNode::MallocFormatNode(title, description, faceID);
 }
 
 std::shared_ptr<ILMFormatNode> MakeFormat(const std::string& title, const std::string& description,
