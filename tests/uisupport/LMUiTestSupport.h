@@ -1,0 +1,29 @@
+#pragma once
+
+#include "LMTestEnvironment.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace Lumeran::TestSupport {
+
+// Loads the default catalogue into the shared data source and waits for it; only
+// the first call in a process loads, later calls return at once.
+void LoadDefaultCatalogueIntoSharedDataSource();
+
+// Empties the shared data source's recent and custom lists and saves them, so a
+// test that runs after another in the same process starts from nothing.
+void ClearSharedLists();
+
+// Fixture of the widget tests: a settings file of its own, empty recent and
+// custom lists, the English language, and nothing left over for the next test.
+class UiTest : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    std::unique_ptr<IsolatedSettings> settings = std::make_unique<IsolatedSettings>();
+};
+
+} // namespace Lumeran::TestSupport
