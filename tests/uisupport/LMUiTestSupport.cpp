@@ -5,6 +5,7 @@
 #include "LMFormatInternationalizationMgr.h"
 
 #include <QApplication>
+#include <QWidget>
 
 namespace Lumeran::TestSupport {
 
