@@ -11,3 +11,4 @@ target_include_directories(LMMediaFormatPopup PUBLIC
 target_link_libraries(LMMediaFormatPopup
     PUBLIC LMMediaFormatPopup::Core LMMediaFormatPopup::Localization
            LMMediaFormatPopup::Selection LMMediaFormatPopup::Editor)
+lmfp_install_headers(LMMediaFormatPopup ${PROJECT_SOURCE_DIR}/core/ILMMediaFormatPopup.h)

@@ -32,7 +32,22 @@ function(lmfp_add_library target)
     set_target_properties(${target} PROPERTIES
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}
-        EXPORT_NAME ${ARG_ALIAS})
+        EXPORT_NAME ${ARG_ALIAS}
+        LMFP_EXPORT_HEADER ${CMAKE_CURRENT_BINARY_DIR}/${ARG_EXPORT_BASE}Export.h)
+    # Installed by cmake/LMFPInstall.cmake, which runs after every folder is known.
+    set_property(GLOBAL APPEND PROPERTY LMFP_LIBRARIES ${target})
+endfunction()
+
+# The headers of a library that a host includes; they are installed flat into
+# include/LMMediaFormatPopup/ beside the library's export header. Everything else
+# in the folder stays private, so these may include only each other, other
+# libraries' public headers, Qt and the standard library.
+#   lmfp_install_headers(<target> <header relative to this folder or absolute>...)
+function(lmfp_install_headers target)
+    foreach(header IN LISTS ARGN)
+        cmake_path(ABSOLUTE_PATH header BASE_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR})
+        set_property(TARGET ${target} APPEND PROPERTY LMFP_PUBLIC_HEADERS ${header})
+    endforeach()
 endfunction()
 
 # A GoogleTest program registered with CTest, one test per case, run offscreen.
