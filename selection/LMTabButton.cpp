@@ -1,0 +1,48 @@
+#include "LMTabButton.h"
+
+#include <QPainter>
+
+LMTabButton::LMTabButton(const QString& titleKey, QWidget* parent)
+    : QPushButton(parent), m_titleKey(titleKey) {
+    setCheckable(true);
+    // A tab is a page switch, not a dialog's default button.
+    setAutoDefault(false);
+    setFlat(true);
+    // Reachable from the keyboard and by assistive tools, but a click leaves
+    // the focus where it was (the search field, usually).
+    setFocusPolicy(Qt::TabFocus);
+    m_cell.resetCursorRect(*this);
+}
+
+LMTabButton::~LMTabButton() = default;
+
+LMTabButtonCell& LMTabButton::cell() {
+    return m_cell;
+}
+
+const LMTabButtonCell& LMTabButton::cell() const {
+    return m_cell;
+}
+
+std::size_t LMTabButton::tag() const {
+    return m_tag;
+}
+
+void LMTabButton::setTag(std::size_t tag) {
+    m_tag = tag;
+}
+
+QString LMTabButton::titleKey() const {
+    return m_titleKey;
+}
+
+void LMTabButton::paintEvent(QPaintEvent* event) {
+    (void)event;
+    QPainter painter(this);
+    m_cell.drawWithFrame(painter, QRectF(rect()), *this);
+}
+
+void LMTabButton::nextCheckState() {
+    // Pushing a tab does not select it: the strip decides, after asking its
+    // delegate, and sets the state of every tab at once.
+}

@@ -1,0 +1,135 @@
+#include "LMTabButtonCell.h"
+
+#include "LMTabHeaderView.h"
+
+#include <QAbstractButton>
+#include <QFontMetricsF>
+#include <QIcon>
+#include <QPainter>
+#include <QPen>
+#include <QRectF>
+
+#include <algorithm>
+
+namespace {
+
+// Room kept free between the tab's edges and its image and title.
+constexpr qreal kHorizontalMargin = 6.0;
+constexpr qreal kVerticalMargin = 4.0;
+// Gap between the image and the title.
+constexpr qreal kImageSpacing = 4.0;
+// Artwork is drawn at most this size; larger sources are scaled down to it.
+constexpr int kMaxImageExtent = 18;
+
+// The fills are fixed light colours, so the title stays dark whatever palette
+// the host application uses; a light palette text colour would vanish on them.
+QColor titleColor(bool enabled) {
+    return enabled ? QColor(0, 0, 0, 217) : QColor(0, 0, 0, 64);
+}
+
+} // namespace
+
+LMTabButtonCell::LMTabButtonCell() {
+    setupDefaultValues();
+}
+
+void LMTabButtonCell::setupDefaultValues() {
+    m_selectedBackgroundColor = QColor(255, 255, 255);
+    // The tab's border continues the strip's rule, so both use one grey.
+    m_borderColor = LMTabHeaderView::borderColor();
+    m_backgroundColor = QColor(241, 235, 243);
+}
+
+QColor LMTabButtonCell::selectedBackgroundColor() const {
+    return m_selectedBackgroundColor;
+}
+
+void LMTabButtonCell::setSelectedBackgroundColor(const QColor& color) {
+    m_selectedBackgroundColor = color;
+}
+
+QColor LMTabButtonCell::borderColor() const {
+    return m_borderColor;
+}
+
+void LMTabButtonCell::setBorderColor(const QColor& color) {
+    m_borderColor = color;
+}
+
+QColor LMTabButtonCell::backgroundColor() const {
+    return m_backgroundColor;
+}
+
+void LMTabButtonCell::setBackgroundColor(const QColor& color) {
+    m_backgroundColor = color;
+}
+
+void LMTabButtonCell::drawWithFrame(QPainter& painter, const QRectF& frame,
+                                    const QAbstractButton& view) const {
+    drawBezelWithFrame(painter, frame, view.isChecked());
+    drawInteriorWithFrame(painter, frame, view);
+}
+
+void LMTabButtonCell::drawBezelWithFrame(QPainter& painter, const QRectF& frame, bool on) const {
+    painter.save();
+    // Start from nothing, so a translucent fill shows what lies behind the
+    // strip rather than an earlier drawing of the tab.
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(frame, Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+
+    QRectF box = frame;
+    if (on)
+        box.setHeight(frame.height() + 1.0);
+    painter.fillRect(box, on ? m_selectedBackgroundColor : m_backgroundColor);
+
+    // A one-point pen centred half a point inside the edges lies wholly inside
+    // the rectangle, so the border is one crisp line at every scale factor.
+    QPen pen(m_borderColor, 1.0);
+    pen.setJoinStyle(Qt::MiterJoin);
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.drawRect(box.adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.restore();
+}
+
+void LMTabButtonCell::drawInteriorWithFrame(QPainter& painter, const QRectF& frame,
+                                            const QAbstractButton& view) const {
+    const QIcon image = view.icon();
+    QSize imageSize;
+    if (!image.isNull()) {
+        const int extent =
+            std::clamp(static_cast<int>(frame.height() - 2 * kVerticalMargin), 0, kMaxImageExtent);
+        imageSize = image.actualSize(QSize(extent, extent));
+    }
+    const qreal imageWidth = imageSize.isEmpty() ? 0.0 : imageSize.width();
+    const qreal spacing = imageWidth > 0.0 && !view.text().isEmpty() ? kImageSpacing : 0.0;
+
+    const QFontMetricsF metrics(view.font());
+    const qreal room = std::max(0.0, frame.width() - 2 * kHorizontalMargin - imageWidth - spacing);
+    const QString title = metrics.elidedText(view.text(), Qt::ElideMiddle, room);
+    const qreal titleWidth = title.isEmpty() ? 0.0 : metrics.horizontalAdvance(title);
+
+    painter.save();
+    qreal x = frame.left() + (frame.width() - (imageWidth + spacing + titleWidth)) / 2.0;
+    if (imageWidth > 0.0) {
+        const QRect imageRect(qRound(x), qRound(frame.center().y() - imageSize.height() / 2.0),
+                              imageSize.width(), imageSize.height());
+        image.paint(&painter, imageRect, Qt::AlignCenter,
+                    view.isEnabled() ? QIcon::Normal : QIcon::Disabled, QIcon::Off);
+        x += imageWidth + spacing;
+    }
+    if (!title.isEmpty()) {
+        painter.setFont(view.font());
+        painter.setPen(titleColor(view.isEnabled()));
+        painter.drawText(QRectF(x, frame.top(), titleWidth, frame.height()),
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
+                         title);
+    }
+    painter.restore();
+}
+
+void LMTabButtonCell::resetCursorRect(QWidget& view) const {
+    view.setCursor(Qt::ArrowCursor);
+}

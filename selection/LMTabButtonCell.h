@@ -1,0 +1,54 @@
+#pragma once
+
+#include "LMSelectionExport.h"
+
+#include <QColor>
+
+class QAbstractButton;
+class QPainter;
+class QRectF;
+class QWidget;
+
+// Draws one tab of the popup's tab strip: a flat rectangle with a thin border,
+// white when the tab is the selected one and light lilac-grey otherwise, with the
+// tab's image leading its title. The button that owns the cell hands it the
+// frame and its own state; the cell keeps only the colours.
+class LMSELECTION_EXPORT LMTabButtonCell {
+public:
+    LMTabButtonCell();
+
+    // Puts every colour back to its default: white when selected, the strip's
+    // grey for the border, light lilac-grey (241, 235, 243) otherwise.
+    void setupDefaultValues();
+
+    QColor selectedBackgroundColor() const;
+    void setSelectedBackgroundColor(const QColor& color);
+    QColor borderColor() const;
+    void setBorderColor(const QColor& color);
+    QColor backgroundColor() const;
+    void setBackgroundColor(const QColor& color);
+
+    // The whole tab: the bezel for the button's checked state, then its image
+    // and title.
+    void drawWithFrame(QPainter& painter, const QRectF& frame, const QAbstractButton& view) const;
+
+    // Background and border. A selected tab's rectangle is one point taller than
+    // the frame, so its bottom border lies just outside the button and the tab
+    // reads as open toward the list below it; the button's own bounds clip it.
+    void drawBezelWithFrame(QPainter& painter, const QRectF& frame, bool on) const;
+
+    // The button's image, scaled down to the tab's height and leading the title,
+    // and its title, shortened in the middle when the tab is too narrow. Both
+    // are centred together in the frame.
+    void drawInteriorWithFrame(QPainter& painter, const QRectF& frame,
+                               const QAbstractButton& view) const;
+
+    // Tabs always show the arrow, whatever cursor the area around the strip
+    // (the search field beside the tabs, for one) asks for.
+    void resetCursorRect(QWidget& view) const;
+
+private:
+    QColor m_selectedBackgroundColor;
+    QColor m_borderColor;
+    QColor m_backgroundColor;
+};

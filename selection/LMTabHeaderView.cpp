@@ -1,0 +1,200 @@
+#include "LMTabHeaderView.h"
+
+#include "LMFormatInternationalizationMgr.h"
+#include "LMTabButton.h"
+#include "LMTabHeaderViewDelegate.h"
+
+#include <QIcon>
+#include <QKeySequence>
+#include <QPainter>
+#include <QPen>
+#include <QPushButton>
+
+namespace {
+
+// Extra width of the sixth tab in French, whose titles run longer than the
+// other languages' in that place.
+constexpr double kWideTabExtra = 15.0;
+constexpr std::size_t kWideTabIndex = 5;
+
+LMTabButton* asTab(QPushButton* button) {
+    return static_cast<LMTabButton*>(button);
+}
+
+// Title, tool tip and the name assistive tools read out are all the
+// translation of the tab's key.
+void showTitle(LMTabButton& tab, const QString& title) {
+    tab.setText(title);
+    // Titles are data (category names), not labels with keyboard mnemonics.
+    tab.setShortcut(QKeySequence());
+    tab.setToolTip(title);
+    tab.setAccessibleName(title);
+}
+
+} // namespace
+
+struct LMTabHeaderView::Private {
+    // Every entry is an LMTabButton made by createButton().
+    QList<QPushButton*> tabButtons;
+    std::size_t indexOfSelected = 0;
+    LMTabHeaderViewDelegate* delegate = nullptr;
+};
+
+LMTabHeaderView::LMTabHeaderView(QWidget* parent)
+    : QWidget(parent), d(std::make_unique<Private>()) {
+    connect(lizationMgr(), &LMFormatInternationalizationMgr::languageDidChange, this,
+            &LMTabHeaderView::languageDidChange);
+}
+
+LMTabHeaderView::~LMTabHeaderView() = default;
+
+QColor LMTabHeaderView::borderColor() {
+    return QColor(191, 191, 191);
+}
+
+LMFormatInternationalizationMgr* LMTabHeaderView::lizationMgr() const {
+    return LMFormatInternationalizationMgr::sharedObject();
+}
+
+LMTabHeaderViewDelegate* LMTabHeaderView::delegate() const {
+    return d->delegate;
+}
+
+void LMTabHeaderView::setDelegate(LMTabHeaderViewDelegate* delegate) {
+    d->delegate = delegate;
+}
+
+void LMTabHeaderView::addTab(const QString& titleKey, const QIcon& image) {
+    LMTabButton* button = createButton(titleKey, image);
+    d->tabButtons.append(button);
+    button->setGeometry(frameOfTabButton(countOfTab() - 1));
+    button->show();
+    arrangeTabButtons();
+}
+
+void LMTabHeaderView::insertTab(const QString& titleKey, const QIcon& image, std::size_t index) {
+    if (index >= countOfTab()) {
+        addTab(titleKey, image);
+        return;
+    }
+    LMTabButton* button = createButton(titleKey, image);
+    d->tabButtons.insert(static_cast<qsizetype>(index), button);
+    button->show();
+    arrangeTabButtons();
+}
+
+void LMTabHeaderView::removeTabAtIndex(std::size_t index) {
+    if (index >= countOfTab())
+        return;
+    QPushButton* button = d->tabButtons.takeAt(static_cast<qsizetype>(index));
+    // The tab may be the one whose click is being handled right now (a
+    // delegate that rebuilds the strip), so it goes once that click is over.
+    button->hide();
+    button->deleteLater();
+}
+
+void LMTabHeaderView::clearTab() {
+    for (QPushButton* button : std::as_const(d->tabButtons)) {
+        button->hide();
+        button->deleteLater();
+    }
+    d->tabButtons.clear();
+}
+
+std::size_t LMTabHeaderView::countOfTab() const {
+    return static_cast<std::size_t>(d->tabButtons.size());
+}
+
+std::size_t LMTabHeaderView::indexOfSelected() const {
+    return d->indexOfSelected;
+}
+
+void LMTabHeaderView::setIndexOfSelected(std::size_t index) {
+    if (index >= countOfTab())
+        return;
+    d->indexOfSelected = index;
+    for (qsizetype i = 0; i < d->tabButtons.size(); ++i)
+        d->tabButtons[i]->setChecked(static_cast<std::size_t>(i) == index);
+}
+
+QRect LMTabHeaderView::frameOfTabButton(std::size_t index) const {
+    int width = static_cast<int>(defWidth);
+    // The sixth tab is widened for French only: its titles are the longest
+    // there, and no other place or language needs the room.
+    if (index == kWideTabIndex && lizationMgr()->language() == LMFormatLanguageFrench)
+        width = static_cast<int>(defWidth + kWideTabExtra);
+    // The pitch stays the same after a widened tab, which therefore overlaps
+    // its right-hand neighbour.
+    const int x = rect().x() + static_cast<int>(offsetX + static_cast<double>(index) * defWidth);
+    // Tabs stand on the bottom edge, over the rule.
+    const int height = static_cast<int>(defHeight);
+    const int y = rect().y() + rect().height() - height;
+    return QRect(x, y, width, height);
+}
+
+void LMTabHeaderView::arrangeTabButtons() {
+    for (qsizetype i = 0; i < d->tabButtons.size(); ++i) {
+        LMTabButton* button = asTab(d->tabButtons[i]);
+        button->setGeometry(frameOfTabButton(static_cast<std::size_t>(i)));
+        button->setTag(static_cast<std::size_t>(i));
+    }
+}
+
+const QList<QPushButton*>& LMTabHeaderView::tabButtons() const {
+    return d->tabButtons;
+}
+
+void LMTabHeaderView::paintEvent(QPaintEvent* event) {
+    QWidget::paintEvent(event);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.setPen(QPen(borderColor(), 1.0));
+    // Half a point above the bottom edge, the one-point line fills the strip's
+    // bottom row exactly.
+    const QRectF bounds(rect());
+    const qreal y = bounds.bottom() - 0.5;
+    painter.drawLine(QPointF(bounds.left(), y), QPointF(bounds.right(), y));
+}
+
+void LMTabHeaderView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    // Tabs keep standing on the bottom edge; their places along the strip, a
+    // gap left by a removal included, stay as they are.
+    for (QPushButton* button : std::as_const(d->tabButtons)) {
+        QRect frame = button->geometry();
+        frame.moveBottom(rect().bottom());
+        button->setGeometry(frame);
+    }
+}
+
+LMTabButton* LMTabHeaderView::createButton(const QString& titleKey, const QIcon& image) {
+    auto* button = new LMTabButton(titleKey, this);
+    button->setGeometry(frameOfTabButton(0));
+    button->setIcon(image);
+    showTitle(*button, lizationMgr()->stringForKey(titleKey));
+    connect(button, &QPushButton::clicked, this, [this, button] { tabButtonClicked(button); });
+    return button;
+}
+
+void LMTabHeaderView::tabButtonClicked(LMTabButton* sender) {
+    const std::size_t tag = sender->tag();
+    if (tag == d->indexOfSelected) {
+        sender->setChecked(true);
+        return;
+    }
+    if (d->delegate)
+        d->delegate->tabHeaderView(this, tag);
+    setIndexOfSelected(tag);
+    if (d->delegate)
+        d->delegate->tabHeaderViewSelectionDidChanged(this);
+}
+
+void LMTabHeaderView::languageDidChange() {
+    for (QPushButton* button : std::as_const(d->tabButtons)) {
+        LMTabButton* tab = asTab(button);
+        showTitle(*tab, lizationMgr()->stringForKey(tab->titleKey()));
+        // A change to or from French widens or narrows the sixth place; each
+        // tab keeps its own place, so a gap left by a removal stays.
+        tab->setGeometry(frameOfTabButton(tab->tag()));
+    }
+}

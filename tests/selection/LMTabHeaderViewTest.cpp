@@ -1,0 +1,452 @@
+#include "LMTabHeaderView.h"
+
+#include "LMFormatInternationalizationMgr.h"
+#include "LMTabHeaderViewDelegate.h"
+#include "LMUiTestSupport.h"
+
+#include <QAccessible>
+#include <QIcon>
+#include <QImage>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+// A strip as tall as the popup gives it room for the search field beside the
+// tabs; the tabs stand on its bottom edge.
+constexpr int kStripWidth = 800;
+constexpr int kStripHeight = 40;
+constexpr int kTabTop = kStripHeight - 27;
+
+std::string rgbAt(const QImage& image, int x, int y) {
+    const QColor color = image.pixelColor(x, y);
+    return std::to_string(color.red()) + "," + std::to_string(color.green()) + "," +
+           std::to_string(color.blue()) +
+           (color.alpha() == 255 ? "" : " alpha " + std::to_string(color.alpha()));
+}
+
+const std::string kGrey = "191,191,191";
+const std::string kWhite = "255,255,255";
+const std::string kLilacGrey = "241,235,243";
+
+struct DelegateMessage {
+    enum Kind { WillChange, DidChange };
+    Kind kind;
+    // The index will-change announced (unused for did-change).
+    std::size_t newIndex;
+    // The strip's indexOfSelected() when the message arrived.
+    std::size_t selectedWhenSent;
+
+    bool operator==(const DelegateMessage&) const = default;
+};
+
+void PrintTo(const DelegateMessage& message, std::ostream* out) {
+    *out << (message.kind == DelegateMessage::WillChange ? "will-change " : "did-change ")
+         << message.newIndex << " (selected " << message.selectedWhenSent << ")";
+}
+
+class RecordingDelegate : public LMTabHeaderViewDelegate {
+public:
+    void tabHeaderView(LMTabHeaderView* header, std::size_t newIndex) override {
+        messages.push_back({DelegateMessage::WillChange, newIndex, header->indexOfSelected()});
+    }
+    void tabHeaderViewSelectionDidChanged(LMTabHeaderView* header) override {
+        messages.push_back({DelegateMessage::DidChange, 0, header->indexOfSelected()});
+    }
+
+    std::vector<DelegateMessage> messages;
+};
+
+class LMTabHeaderViewTest : public Lumeran::TestSupport::UiTest {
+protected:
+    void SetUp() override {
+        UiTest::SetUp();
+        strip = std::make_unique<LMTabHeaderView>();
+        strip->resize(kStripWidth, kStripHeight);
+        strip->setDelegate(&delegate);
+    }
+
+    void addTabs(const QStringList& keys) {
+        for (const QString& key : keys)
+            strip->addTab(key, QIcon());
+    }
+
+    // Recent, four categories, Custom and one more: seven tabs, enough to see
+    // the sixth one widen and overlap the seventh.
+    void addSevenTabs() {
+        addTabs({QStringLiteral("Recent"), QStringLiteral("Video"), QStringLiteral("Audio"),
+                 QStringLiteral("Device"), QStringLiteral("Web Video"), QStringLiteral("Custom"),
+                 QStringLiteral("Settings")});
+    }
+
+    void showStrip() {
+        strip->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(strip.get()));
+    }
+
+    void click(std::size_t index) {
+        QTest::mouseClick(strip->tabButtons().at(static_cast<qsizetype>(index)), Qt::LeftButton);
+    }
+
+    QImage rendered() const { return strip->grab().toImage(); }
+
+    RecordingDelegate delegate;
+    std::unique_ptr<LMTabHeaderView> strip;
+};
+
+TEST_F(LMTabHeaderViewTest, TabsStandOnTheBottomEdgeAtA97PointPitch) {
+    addSevenTabs();
+    showStrip();
+
+    ASSERT_EQ(strip->countOfTab(), 7u);
+    for (std::size_t i = 0; i < 7; ++i) {
+        const QRect expected(10 + 97 * static_cast<int>(i), kTabTop, 97, 27);
+        EXPECT_EQ(strip->frameOfTabButton(i), expected) << "tab " << i;
+        EXPECT_EQ(strip->tabButtons().at(static_cast<qsizetype>(i))->geometry(), expected)
+            << "tab " << i;
+    }
+}
+
+TEST_F(LMTabHeaderViewTest, FrenchWidensOnlyTheSixthTabWhichOverlapsTheSeventh) {
+    LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageFrench);
+    addSevenTabs();
+
+    for (std::size_t i = 0; i < 7; ++i) {
+        const QRect frame = strip->tabButtons().at(static_cast<qsizetype>(i))->geometry();
+        EXPECT_EQ(frame.x(), 10 + 97 * static_cast<int>(i)) << "tab " << i;
+        EXPECT_EQ(frame.width(), i == 5 ? 112 : 97) << "tab " << i;
+    }
+    const QRect sixth = strip->frameOfTabButton(5);
+    const QRect seventh = strip->frameOfTabButton(6);
+    EXPECT_EQ(sixth.x() + sixth.width() - seventh.x(), 15);
+
+    // Other languages with long words get no wider tab.
+    LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageGerman);
+    EXPECT_EQ(strip->frameOfTabButton(5).width(), 97);
+    EXPECT_EQ(strip->tabButtons().at(5)->width(), 97);
+}
+
+TEST_F(LMTabHeaderViewTest, ClickingTheSelectedTabSendsNothingAndLeavesItSelected) {
+    addSevenTabs();
+    strip->setIndexOfSelected(2);
+    showStrip();
+
+    click(2);
+
+    EXPECT_TRUE(delegate.messages.empty());
+    EXPECT_EQ(strip->indexOfSelected(), 2u);
+    EXPECT_TRUE(strip->tabButtons().at(2)->isChecked());
+    const QRect tab = strip->frameOfTabButton(2);
+    const QImage image = rendered();
+    EXPECT_EQ(rgbAt(image, tab.x() + 3, tab.y() + 3), kWhite);
+    EXPECT_EQ(rgbAt(image, tab.center().x(), tab.bottom()), kWhite);
+}
+
+TEST_F(LMTabHeaderViewTest, ClickingAnotherTabSendsWillChangeThenDidChangeWithTheNewIndex) {
+    addSevenTabs();
+    showStrip();
+
+    click(3);
+
+    const std::vector<DelegateMessage> expected{
+        {DelegateMessage::WillChange, 3, 0},
+        {DelegateMessage::DidChange, 0, 3},
+    };
+    EXPECT_EQ(delegate.messages, expected);
+    EXPECT_EQ(strip->indexOfSelected(), 3u);
+    for (std::size_t i = 0; i < 7; ++i)
+        EXPECT_EQ(strip->tabButtons().at(static_cast<qsizetype>(i))->isChecked(), i == 3)
+            << "tab " << i;
+}
+
+TEST_F(LMTabHeaderViewTest, WithoutADelegateAClickStillMovesTheSelection) {
+    strip->setDelegate(nullptr);
+    addSevenTabs();
+    showStrip();
+
+    click(4);
+
+    EXPECT_EQ(strip->indexOfSelected(), 4u);
+    EXPECT_TRUE(strip->tabButtons().at(4)->isChecked());
+    EXPECT_FALSE(strip->tabButtons().at(0)->isChecked());
+}
+
+TEST_F(LMTabHeaderViewTest, SelectingInCodeTellsTheDelegateNothing) {
+    addSevenTabs();
+
+    strip->setIndexOfSelected(5);
+
+    EXPECT_TRUE(delegate.messages.empty());
+    EXPECT_EQ(strip->indexOfSelected(), 5u);
+    EXPECT_TRUE(strip->tabButtons().at(5)->isChecked());
+}
+
+TEST_F(LMTabHeaderViewTest, SelectingTheIndexEqualToTheTabCountChangesNothing) {
+    addSevenTabs();
+    strip->setIndexOfSelected(1);
+
+    strip->setIndexOfSelected(strip->countOfTab());
+
+    EXPECT_EQ(strip->indexOfSelected(), 1u);
+    EXPECT_TRUE(strip->tabButtons().at(1)->isChecked());
+    for (std::size_t i = 0; i < 7; ++i)
+        EXPECT_EQ(strip->tabButtons().at(static_cast<qsizetype>(i))->isChecked(), i == 1);
+}
+
+TEST_F(LMTabHeaderViewTest, ClearingKeepsTheSelectedIndexUntilTheNextValidSelection) {
+    addSevenTabs();
+    strip->setIndexOfSelected(4);
+
+    strip->clearTab();
+
+    EXPECT_EQ(strip->countOfTab(), 0u);
+    EXPECT_TRUE(strip->tabButtons().isEmpty());
+    EXPECT_EQ(strip->indexOfSelected(), 4u);
+    strip->setIndexOfSelected(0);
+    EXPECT_EQ(strip->indexOfSelected(), 4u);
+
+    addTabs({QStringLiteral("Recent"), QStringLiteral("Custom")});
+    EXPECT_EQ(strip->indexOfSelected(), 4u);
+    strip->setIndexOfSelected(1);
+    EXPECT_EQ(strip->indexOfSelected(), 1u);
+    EXPECT_TRUE(strip->tabButtons().at(1)->isChecked());
+}
+
+TEST_F(LMTabHeaderViewTest, RemovingAMiddleTabLeavesAGapUntilTheNextAddition) {
+    addTabs({QStringLiteral("Recent"), QStringLiteral("Video"), QStringLiteral("Audio"),
+             QStringLiteral("Custom")});
+    showStrip();
+
+    strip->removeTabAtIndex(1);
+    QCoreApplication::processEvents();
+
+    ASSERT_EQ(strip->countOfTab(), 3u);
+    EXPECT_EQ(strip->tabButtons().at(1)->text(), QStringLiteral("Audio"));
+    EXPECT_EQ(strip->tabButtons().at(1)->x(), 10 + 97 * 2);
+    EXPECT_EQ(strip->tabButtons().at(2)->x(), 10 + 97 * 3);
+    // Where the second tab stood, only the rule is left.
+    const QImage gap = rendered();
+    const int gapX = 10 + 97 + 48;
+    EXPECT_NE(rgbAt(gap, gapX, kTabTop + 5), kLilacGrey);
+    EXPECT_NE(rgbAt(gap, gapX, kTabTop), kGrey);
+    EXPECT_EQ(rgbAt(gap, gapX, kStripHeight - 1), kGrey);
+
+    strip->addTab(QStringLiteral("Settings"), QIcon());
+
+    ASSERT_EQ(strip->countOfTab(), 4u);
+    for (std::size_t i = 0; i < 4; ++i)
+        EXPECT_EQ(strip->tabButtons().at(static_cast<qsizetype>(i))->x(),
+                  10 + 97 * static_cast<int>(i));
+    EXPECT_EQ(rgbAt(rendered(), gapX, kTabTop + 5), kLilacGrey);
+}
+
+TEST_F(LMTabHeaderViewTest, AnInsertionClosesTheGapOfARemoval) {
+    addTabs({QStringLiteral("Recent"), QStringLiteral("Video"), QStringLiteral("Audio")});
+    strip->removeTabAtIndex(0);
+    EXPECT_EQ(strip->tabButtons().at(0)->x(), 10 + 97);
+
+    strip->insertTab(QStringLiteral("Custom"), QIcon(), 1);
+
+    ASSERT_EQ(strip->countOfTab(), 3u);
+    const QStringList expected{QStringLiteral("Video"), QStringLiteral("Custom"),
+                               QStringLiteral("Audio")};
+    for (std::size_t i = 0; i < 3; ++i) {
+        const QPushButton* button = strip->tabButtons().at(static_cast<qsizetype>(i));
+        EXPECT_EQ(button->text(), expected.at(static_cast<qsizetype>(i)));
+        EXPECT_EQ(button->x(), 10 + 97 * static_cast<int>(i));
+    }
+}
+
+TEST_F(LMTabHeaderViewTest, RemovingPastTheEndIsIgnored) {
+    addTabs({QStringLiteral("Recent"), QStringLiteral("Custom")});
+    strip->setIndexOfSelected(1);
+
+    strip->removeTabAtIndex(2);
+
+    EXPECT_EQ(strip->countOfTab(), 2u);
+    EXPECT_EQ(strip->indexOfSelected(), 1u);
+}
+
+TEST_F(LMTabHeaderViewTest, InsertingDoesNotAdjustTheSelectedIndex) {
+    addTabs({QStringLiteral("Recent"), QStringLiteral("Video"), QStringLiteral("Custom")});
+    strip->setIndexOfSelected(1);
+
+    strip->insertTab(QStringLiteral("Audio"), QIcon(), 0);
+
+    ASSERT_EQ(strip->countOfTab(), 4u);
+    EXPECT_EQ(strip->tabButtons().at(0)->text(), QStringLiteral("Audio"));
+    EXPECT_EQ(strip->tabButtons().at(0)->x(), 10);
+    // The stored index now names another tab; the tab that was selected keeps
+    // its look until the selection is set again.
+    EXPECT_EQ(strip->indexOfSelected(), 1u);
+    EXPECT_EQ(strip->tabButtons().at(1)->text(), QStringLiteral("Recent"));
+    EXPECT_TRUE(strip->tabButtons().at(2)->isChecked());
+    EXPECT_TRUE(delegate.messages.empty());
+}
+
+TEST_F(LMTabHeaderViewTest, InsertingAtOrPastTheEndAppends) {
+    addTabs({QStringLiteral("Recent"), QStringLiteral("Video")});
+
+    strip->insertTab(QStringLiteral("Custom"), QIcon(), 2);
+    strip->insertTab(QStringLiteral("Audio"), QIcon(), 10);
+
+    ASSERT_EQ(strip->countOfTab(), 4u);
+    EXPECT_EQ(strip->tabButtons().at(2)->text(), QStringLiteral("Custom"));
+    EXPECT_EQ(strip->tabButtons().at(3)->text(), QStringLiteral("Audio"));
+    EXPECT_EQ(strip->tabButtons().at(3)->geometry(), strip->frameOfTabButton(3));
+}
+
+TEST_F(LMTabHeaderViewTest, SelectedTabIsWhiteWithAGreyBorderAndOpenAtTheBottom) {
+    addSevenTabs();
+    strip->setIndexOfSelected(1);
+    showStrip();
+
+    const QImage image = rendered();
+    const QRect tab = strip->frameOfTabButton(1);
+    // Border along the top, left and right edges.
+    EXPECT_EQ(rgbAt(image, tab.center().x(), tab.top()), kGrey);
+    EXPECT_EQ(rgbAt(image, tab.left(), tab.center().y()), kGrey);
+    EXPECT_EQ(rgbAt(image, tab.right(), tab.center().y()), kGrey);
+    EXPECT_EQ(rgbAt(image, tab.left(), tab.bottom()), kGrey);
+    EXPECT_EQ(rgbAt(image, tab.right(), tab.bottom()), kGrey);
+    // White inside, down to and including the bottom row, where the strip's
+    // rule is covered: the tab is open toward the list below.
+    EXPECT_EQ(rgbAt(image, tab.left() + 1, tab.top() + 1), kWhite);
+    EXPECT_EQ(rgbAt(image, tab.right() - 1, tab.top() + 1), kWhite);
+    for (int x = tab.left() + 1; x < tab.right(); ++x)
+        ASSERT_EQ(rgbAt(image, x, tab.bottom()), kWhite) << "x " << x;
+}
+
+TEST_F(LMTabHeaderViewTest, UnselectedTabsAreLilacGreyWithAGreyBorderAllRound) {
+    addSevenTabs();
+    strip->setIndexOfSelected(1);
+    showStrip();
+
+    const QImage image = rendered();
+    for (std::size_t i : {0u, 2u, 6u}) {
+        const QRect tab = strip->frameOfTabButton(i);
+        EXPECT_EQ(rgbAt(image, tab.center().x(), tab.top()), kGrey) << "tab " << i;
+        EXPECT_EQ(rgbAt(image, tab.center().x(), tab.bottom()), kGrey) << "tab " << i;
+        EXPECT_EQ(rgbAt(image, tab.left(), tab.center().y()), kGrey) << "tab " << i;
+        EXPECT_EQ(rgbAt(image, tab.right(), tab.center().y()), kGrey) << "tab " << i;
+        EXPECT_EQ(rgbAt(image, tab.left() + 1, tab.top() + 1), kLilacGrey) << "tab " << i;
+        EXPECT_EQ(rgbAt(image, tab.right() - 1, tab.bottom() - 1), kLilacGrey) << "tab " << i;
+    }
+}
+
+TEST_F(LMTabHeaderViewTest, TheRuleRunsGreyAlongTheStripsBottomEdge) {
+    addTabs({QStringLiteral("Recent"), QStringLiteral("Custom")});
+    showStrip();
+
+    const QImage image = rendered();
+    const int bottom = kStripHeight - 1;
+    for (int x : {0, 5, 9, 10 + 97 * 2, 500, kStripWidth - 1}) {
+        EXPECT_EQ(rgbAt(image, x, bottom), kGrey) << "x " << x;
+        EXPECT_NE(rgbAt(image, x, bottom - 1), kGrey) << "x " << x;
+    }
+}
+
+TEST_F(LMTabHeaderViewTest, TabsKeepStandingOnTheBottomEdgeWhenTheStripGrows) {
+    addTabs({QStringLiteral("Recent"), QStringLiteral("Video"), QStringLiteral("Custom")});
+    strip->removeTabAtIndex(1);
+    showStrip();
+
+    strip->resize(kStripWidth, 60);
+    QCoreApplication::processEvents();
+
+    EXPECT_EQ(strip->tabButtons().at(0)->geometry(), QRect(10, 33, 97, 27));
+    // The gap of the removal stays where it was.
+    EXPECT_EQ(strip->tabButtons().at(1)->geometry(), QRect(10 + 97 * 2, 33, 97, 27));
+}
+
+TEST_F(LMTabHeaderViewTest, TitlesFollowALanguageChange) {
+    addTabs({QStringLiteral("Recent"), QStringLiteral("Custom")});
+    const QPushButton* recent = strip->tabButtons().at(0);
+    EXPECT_EQ(recent->text(), QStringLiteral("Recent"));
+
+    LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageFrench);
+
+    EXPECT_EQ(recent->text(), QStringLiteral("Récents"));
+    EXPECT_EQ(recent->toolTip(), QStringLiteral("Récents"));
+    EXPECT_EQ(recent->accessibleName(), QStringLiteral("Récents"));
+    EXPECT_EQ(strip->tabButtons().at(1)->text(), QStringLiteral("Personnalisés"));
+}
+
+TEST_F(LMTabHeaderViewTest, AKeyWithoutATranslationShowsTheKey) {
+    strip->addTab(QStringLiteral("Jazz Archive"), QIcon());
+
+    EXPECT_EQ(strip->tabButtons().at(0)->text(), QStringLiteral("Jazz Archive"));
+    EXPECT_EQ(strip->tabButtons().at(0)->toolTip(), QStringLiteral("Jazz Archive"));
+}
+
+TEST_F(LMTabHeaderViewTest, TabsAreNamedAndCheckedForAssistiveTools) {
+    addTabs({QStringLiteral("Recent"), QStringLiteral("Custom")});
+    strip->setIndexOfSelected(1);
+    showStrip();
+
+    QPushButton* custom = strip->tabButtons().at(1);
+    EXPECT_EQ(custom->accessibleName(), QStringLiteral("Custom"));
+    QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(custom);
+    ASSERT_NE(accessible, nullptr);
+    EXPECT_EQ(accessible->text(QAccessible::Name), QStringLiteral("Custom"));
+    EXPECT_TRUE(accessible->state().checkable);
+    EXPECT_TRUE(accessible->state().checked);
+    EXPECT_TRUE(custom->focusPolicy() & Qt::TabFocus);
+}
+
+TEST_F(LMTabHeaderViewTest, SpaceOnAFocusedTabSelectsIt) {
+    addTabs({QStringLiteral("Recent"), QStringLiteral("Video"), QStringLiteral("Custom")});
+    showStrip();
+    QPushButton* video = strip->tabButtons().at(1);
+    video->setFocus(Qt::TabFocusReason);
+
+    QTest::keyClick(video, Qt::Key_Space);
+
+    const std::vector<DelegateMessage> expected{
+        {DelegateMessage::WillChange, 1, 0},
+        {DelegateMessage::DidChange, 0, 1},
+    };
+    EXPECT_EQ(delegate.messages, expected);
+}
+
+TEST_F(LMTabHeaderViewTest, ClickingATabLeavesTheFocusInTheSearchField) {
+    // The popup's layout: the search field stands in the strip's area, right of
+    // the tabs.
+    QWidget window;
+    window.resize(kStripWidth, 200);
+    auto* tabs = new LMTabHeaderView(&window);
+    tabs->setGeometry(0, 0, kStripWidth, kStripHeight);
+    tabs->addTab(QStringLiteral("Recent"), QIcon());
+    tabs->addTab(QStringLiteral("Custom"), QIcon());
+    auto* search = new QLineEdit(&window);
+    search->setGeometry(600, 8, 190, 24);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    search->setFocus();
+    ASSERT_TRUE(search->hasFocus());
+
+    QTest::mouseClick(tabs->tabButtons().at(1), Qt::LeftButton);
+
+    EXPECT_EQ(tabs->indexOfSelected(), 1u);
+    EXPECT_TRUE(tabs->tabButtons().at(1)->isChecked());
+    EXPECT_TRUE(search->hasFocus());
+}
+
+TEST_F(LMTabHeaderViewTest, TabsShowTheArrowCursor) {
+    strip->setCursor(Qt::IBeamCursor);
+    addTabs({QStringLiteral("Recent"), QStringLiteral("Custom")});
+
+    for (QPushButton* button : strip->tabButtons()) {
+        EXPECT_TRUE(button->testAttribute(Qt::WA_SetCursor));
+        EXPECT_EQ(button->cursor().shape(), Qt::ArrowCursor);
+    }
+}
+
+} // namespace
