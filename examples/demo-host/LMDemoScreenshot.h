@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QImage>
+#include <QRect>
+#include <QString>
+
+// Pictures of the screen as a user would see it, made without a display: every
+// visible window is drawn at its place over a plain desktop, the pointer on top.
+class LMDemoScreenshot {
+public:
+    // The part `area` of the (virtual) screen, at the screen's pixel ratio.
+    static QImage compose(const QRect& area);
+    // compose() of the area that holds every visible window, with a margin, saved
+    // as PNG; false when the file could not be written.
+    static bool save(const QString& path);
+};

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+#include <string>
+
+class LMDemoHostWindow;
+class QAbstractItemView;
+
+// The scripted walk through the popup that `make demo` runs on a machine without
+// a display: it drives the demo host like a user would (clicks, typing, the
+// pointer resting over a preset) and writes a PNG of the screen at every step.
+class LMDemoTour : public QObject {
+    Q_OBJECT
+
+public:
+    LMDemoTour(std::string cataloguePath, QString outputDir);
+    ~LMDemoTour() override;
+
+    // Runs every step; false (with a message on stderr) when a step fails.
+    bool run();
+
+private:
+    bool shoot(const QString& name);
+    bool check(bool condition, const char* what);
+    void settle();
+    void clickTab(int index);
+    void clickRow(QAbstractItemView* view, int row);
+    void hoverRow(QAbstractItemView* view, int row);
+    QAbstractItemView* categoryPresetList(int category) const;
+    QAbstractItemView* customPresetList() const;
+
+    std::string m_cataloguePath;
+    QString m_outputDir;
+    std::unique_ptr<LMDemoHostWindow> m_host;
+    int m_shots = 0;
+};
