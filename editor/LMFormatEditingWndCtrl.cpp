@@ -55,8 +55,9 @@ void fillBox(QComboBox* box, int count, const std::function<std::string(int)>& n
         box->addItem(localized(nameAt(i)));
     // A box with nothing to offer is disabled as well (a quality list of one level).
     box->setEnabled(current >= 0 && box->count() > 0);
-    if (current >= 0)
-        box->setCurrentIndex(current);
+    // A negative current selects nothing, rather than the first item a box
+    // selects by itself.
+    box->setCurrentIndex(current);
 }
 
 // One of a codec's value lists (resolutions, frame rates, sample rates, channel

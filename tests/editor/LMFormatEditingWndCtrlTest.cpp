@@ -187,6 +187,25 @@ TEST_F(LMFormatEditingWndCtrlTest, MissingVideoStreamDisablesTheVideoBoxesAndFil
     });
 }
 
+TEST_F(LMFormatEditingWndCtrlTest, MissingAudioStreamListsTheCodecsWithNoneChosen) {
+    const auto prores = catalogueNode("Video", "ProRes MOV");
+    const auto preset = ILMFormatPreset::MallocFormatPreset("mov", "Silent");
+    ASSERT_TRUE(preset);
+    preset->SetCurrentAudioCodec(-1);
+    ASSERT_LT(preset->CurrentAudioCodecIndex(), 0);
+    edit(preset, prores, [this] {
+        EXPECT_FALSE(box("cmbAEncoder")->isEnabled());
+        EXPECT_GT(box("cmbAEncoder")->count(), 0);
+        EXPECT_EQ(box("cmbAEncoder")->currentIndex(), -1);
+        for (const char* name : {"cmbChannel", "cmbSampleRate", "cmbAQuality"}) {
+            EXPECT_FALSE(box(name)->isEnabled()) << name;
+            EXPECT_EQ(box(name)->count(), 0) << name;
+        }
+        EXPECT_EQ(box("cmbVEncoder")->currentText(), QStringLiteral("ProRes"));
+        EXPECT_TRUE(box("cmbResolution")->isEnabled());
+    });
+}
+
 TEST_F(LMFormatEditingWndCtrlTest, AutomaticCodecEmptiesAndDisablesItsBoxesButNotTheEncoder) {
     auto preset = ILMFormatPreset::MallocFormatPreset("mp4", "Automatic");
     ASSERT_TRUE(preset);
