@@ -44,7 +44,8 @@ int main(int argc, char** argv) {
     if (parser.isSet(tour)) {
         // The tour starts from nothing and leaves the user's settings alone.
         QTemporaryDir settingsDir;
-        ILMAppSettings::UseSettingsFile(settingsDir.filePath(QStringLiteral("demo.ini")).toStdString());
+        ILMAppSettings::UseSettingsFile(
+            settingsDir.filePath(QStringLiteral("demo.ini")).toStdString());
         LMDemoTour demoTour(cataloguePath, parser.value(tour));
         return demoTour.run() ? 0 : 1;
     }

@@ -1,0 +1,105 @@
+#include "ILMMediaFormatPopup.h"
+
+#include "ILMFmtPresetDataSource.h"
+#include "LMDefaultCatalogue.h"
+#include "LMFmtNodeViewCtrl.h"
+#include "LMFormatCollectionView.h"
+#include "LMFormatSelectionWndCtrl.h"
+#include "LMTabHeaderView.h"
+#include "LMUiTestSupport.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using namespace Lumeran;
+using Lumeran::TestSupport::UiTest;
+
+namespace {
+
+class ILMMediaFormatPopupTest : public UiTest {};
+
+// Loads the default catalogue through the facade and lets the queued building of
+// the tabs run, as a host's event loop would.
+void SetupThroughFacade() {
+    auto popup = ILMMediaFormatPopup::Shared();
+    popup->SetupExternalFormatData(LMDefaultCatalogue::Path());
+    popup->WaitForFormatDataLoadingComplete();
+    QTRY_VERIFY(LMFormatSelectionWndCtrl::shared()->tabHeaderView()->countOfTab() > 2);
+}
+
+} // namespace
+
+TEST_F(ILMMediaFormatPopupTest, SharedReturnsTheSameFacadeEveryTime) {
+    EXPECT_EQ(ILMMediaFormatPopup::Shared(), ILMMediaFormatPopup::Shared());
+    EXPECT_NE(ILMMediaFormatPopup::Shared(), nullptr);
+}
+
+TEST_F(ILMMediaFormatPopupTest, WaitingBeforeSetupReturnsAtOnce) {
+    QElapsedTimer timer;
+    timer.start();
+    ILMMediaFormatPopup::Shared()->WaitForFormatDataLoadingComplete();
+    EXPECT_LT(timer.elapsed(), 1000);
+}
+
+TEST_F(ILMMediaFormatPopupTest, SetupBuildsTheTabsOnTheGuiThread) {
+    SetupThroughFacade();
+    auto* ctrl = LMFormatSelectionWndCtrl::shared();
+    EXPECT_EQ(ctrl->tabHeaderView()->countOfTab(), std::size_t(ctrl->defFmtViewCtrls().size()) + 2);
+    EXPECT_EQ(ctrl->thread(), QThread::currentThread());
+}
+
+TEST_F(ILMMediaFormatPopupTest, PopupSelectionWithAPointGivesTheWindowAOnePointRectangle) {
+    auto popup = ILMMediaFormatPopup::Shared();
+    popup->PopupSelection(std::pair<float, float>{500.0f, 200.0f}, {});
+    auto* ctrl = LMFormatSelectionWndCtrl::shared();
+    EXPECT_TRUE(ctrl->isVisible());
+    EXPECT_EQ(ctrl->geometry(), ctrl->frameFromRect(QRectF(500.0, 200.0, 1.0, 1.0)));
+    ctrl->windowDidResignKey();
+}
+
+TEST_F(ILMMediaFormatPopupTest, PopupSelectionWithARectanglePlacesTheWindowUnderIt) {
+    auto popup = ILMMediaFormatPopup::Shared();
+    popup->PopupSelection(ILMMediaFormatPopup::Rect{300.0f, 40.0f, 200.0f, 30.0f}, {});
+    auto* ctrl = LMFormatSelectionWndCtrl::shared();
+    EXPECT_EQ(ctrl->geometry(), ctrl->frameFromRect(QRectF(300.0, 40.0, 200.0, 30.0)));
+    ctrl->windowDidResignKey();
+}
+
+TEST_F(ILMMediaFormatPopupTest, AnEmptyCompletionStillOpensThePopupAndAChoiceCallsNothing) {
+    SetupThroughFacade();
+    ILMMediaFormatPopup::Shared()->PopupSelection(ILMMediaFormatPopup::Rect{100, 100, 50, 20},
+                                                  ILMMediaFormatPopup::Completion{});
+    auto* ctrl = LMFormatSelectionWndCtrl::shared();
+    ASSERT_TRUE(ctrl->isVisible());
+    QAbstractItemView* list = ctrl->defFmtViewCtrls().first()->fmtListView();
+    const QRect row = list->visualRect(list->model()->index(0, 0));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row.center() - QPoint(40, 0));
+    EXPECT_FALSE(ctrl->isVisible());
+    // The choice is still recorded.
+    EXPECT_EQ(ILMFmtPresetDataSource::Shared()->GetRecentList().size(), 1u);
+}
+
+TEST_F(ILMMediaFormatPopupTest, TheCompletionReceivesTheChosenPresetAndNodeOnce) {
+    SetupThroughFacade();
+    int calls = 0;
+    std::shared_ptr<const ILMFormatPreset> chosen;
+    std::shared_ptr<const ILMFormatNode> node;
+    ILMMediaFormatPopup::Shared()->PopupSelection(ILMMediaFormatPopup::Rect{100, 100, 50, 20},
+                                                  [&](auto preset, auto owner) {
+                                                      ++calls;
+                                                      chosen = preset;
+                                                      node = owner;
+                                                  });
+    auto* ctrl = LMFormatSelectionWndCtrl::shared();
+    QAbstractItemView* list = ctrl->defFmtViewCtrls().first()->fmtListView();
+    const QRect row = list->visualRect(list->model()->index(1, 0));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row.center() - QPoint(40, 0));
+    EXPECT_EQ(calls, 1);
+    ASSERT_NE(chosen, nullptr);
+    ASSERT_NE(node, nullptr);
+    EXPECT_EQ(QString::fromStdString(chosen->Title()),
+              list->model()->index(1, 0).data().toString());
+}

@@ -1,0 +1,421 @@
+#include "LMFormatSelectionWndCtrl.h"
+
+#include "ILMFmtPresetDataSource.h"
+#include "LMFmtNodeViewCtrl.h"
+#include "LMFmtRecentViewCtrl.h"
+#include "LMFormatCollectionView.h"
+#include "LMFormatInternationalizationMgr.h"
+#include "LMProgressIndicator.h"
+#include "LMTabHeaderView.h"
+#include "LMUiTestSupport.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using namespace Lumeran;
+using Lumeran::TestSupport::UiTest;
+
+namespace {
+
+struct Completion {
+    std::shared_ptr<const ILMFormatPreset> preset;
+    std::shared_ptr<const ILMFormatNode> node;
+};
+
+QJsonObject Preset(const QString& title, const QString& description) {
+    return {{QStringLiteral("title"), title},
+            {QStringLiteral("description"), description},
+            {QStringLiteral("faceId"), 100},
+            {QStringLiteral("format"), QStringLiteral("mp4")}};
+}
+
+QJsonObject Format(const QString& title, const QJsonArray& presets) {
+    return {{QStringLiteral("title"), title},
+            {QStringLiteral("faceId"), 100},
+            {QStringLiteral("presets"), presets}};
+}
+
+QJsonObject Category(const QString& title, const QJsonArray& formats) {
+    return {{QStringLiteral("title"), title},
+            {QStringLiteral("faceId"), 10},
+            {QStringLiteral("children"), formats}};
+}
+
+// A catalogue of two categories, A and B, small enough to reason about.
+QString WriteTwoCategoryCatalogue(const QTemporaryDir& dir) {
+    const QJsonArray categories{
+        Category(QStringLiteral("A"),
+                 {Format(QStringLiteral("MP4"),
+                         {Preset(QStringLiteral("HD 1080p"), QStringLiteral("Full HD")),
+                          Preset(QStringLiteral("HD 720p"), QStringLiteral("HD"))}),
+                  Format(QStringLiteral("MKV"),
+                         {Preset(QStringLiteral("Archive"), QStringLiteral("Keeps everything"))})}),
+        Category(QStringLiteral("B"),
+                 {Format(QStringLiteral("Phone"),
+                         {Preset(QStringLiteral("Small"), QStringLiteral("For old phones"))})})};
+    const QJsonObject root{{QStringLiteral("title"), QStringLiteral("Formats")},
+                           {QStringLiteral("children"), categories}};
+    const QString path = dir.filePath(QStringLiteral("two.json"));
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(QJsonDocument(root).toJson());
+    return path;
+}
+
+// The shared data source loads one catalogue per process; a test that needs a
+// particular one skips when another test of this process loaded a different one
+// (ctest runs every test in a process of its own, so there they always run).
+bool LoadCatalogueOnce(const std::string& path) {
+    static std::string loaded;
+    if (!loaded.empty())
+        return loaded == path;
+    loaded = path;
+    auto source = ILMFmtPresetDataSource::Shared();
+    source->AsyncLoadExternalDataSource(path, {});
+    source->WaitForLoadingComplete();
+    return true;
+}
+
+// Whether any test of this process has built the window's tabs yet.
+bool g_tabsBuilt = false;
+
+class LMFormatSelectionWndCtrlTest : public UiTest {
+protected:
+    void SetUp() override {
+        UiTest::SetUp();
+        ctrl = LMFormatSelectionWndCtrl::shared();
+    }
+
+    void TearDown() override {
+        ctrl->searchField()->clear();
+        UiTest::TearDown();
+    }
+
+    // Loads the default catalogue and builds the tabs, as the facade does when
+    // the load finishes.
+    void LoadDefault() {
+        TestSupport::LoadDefaultCatalogueIntoSharedDataSource();
+        ctrl->loadExternalDataInMainThread();
+        g_tabsBuilt = true;
+    }
+
+    bool LoadTwoCategories() {
+        if (!LoadCatalogueOnce(WriteTwoCategoryCatalogue(dir).toStdString()))
+            return false;
+        ctrl->loadExternalDataInMainThread();
+        g_tabsBuilt = true;
+        return true;
+    }
+
+    void Popup() {
+        ctrl->popupSelection(QRectF(100, 100, 120, 30), [this](auto preset, auto node) {
+            completions.push_back({preset, node});
+        });
+        QApplication::processEvents();
+    }
+
+    QStringList TabTitles() const {
+        QStringList titles;
+        for (QAbstractButton* button : ctrl->tabHeaderView()->tabButtons())
+            titles << button->text();
+        return titles;
+    }
+
+    static QStringList Titles(const QAbstractItemView* view) {
+        QStringList titles;
+        const QAbstractItemModel* model = view->model();
+        for (int row = 0; row < model->rowCount(); ++row)
+            titles << model->index(row, 0).data(Qt::DisplayRole).toString();
+        return titles;
+    }
+
+    void ClickTab(int index) {
+        QAbstractButton* button = ctrl->tabHeaderView()->tabButtons().at(index);
+        QTest::mouseClick(button, Qt::LeftButton);
+    }
+
+    static void ClickRow(QAbstractItemView* view, int row) {
+        const QRect rect = view->visualRect(view->model()->index(row, 0));
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, rect.center() - QPoint(40, 0));
+    }
+
+    QTemporaryDir dir;
+    LMFormatSelectionWndCtrl* ctrl = nullptr;
+    std::vector<Completion> completions;
+};
+
+const QRect kScreen(0, 0, 1600, 1000);
+
+} // namespace
+
+TEST_F(LMFormatSelectionWndCtrlTest, PopupHangsCentredUnderTheRectangle) {
+    const QRect frame = LMFormatSelectionWndCtrl::frameFromRect(QRectF(700, 100, 200, 30), kScreen);
+    EXPECT_EQ(frame, QRect(400, 130, 800, 450));
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, RectangleNearTheBottomPutsThePopupAboveIt) {
+    const QRect frame = LMFormatSelectionWndCtrl::frameFromRect(QRectF(700, 900, 200, 30), kScreen);
+    EXPECT_EQ(frame, QRect(400, 450, 800, 450));
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, NoRoomAboveEitherPinsThePopupToTheVisibleBottom) {
+    const QRect visible(0, 0, 1600, 700);
+    const QRect frame = LMFormatSelectionWndCtrl::frameFromRect(QRectF(700, 400, 200, 30), visible);
+    EXPECT_EQ(frame, QRect(400, 250, 800, 450));
+    // It may then cover the rectangle.
+    EXPECT_TRUE(frame.intersects(QRect(700, 400, 200, 30)));
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, RectangleNearTheRightEdgeRightAlignsToTheVisibleRightEdge) {
+    const QRect frame = LMFormatSelectionWndCtrl::frameFromRect(QRectF(1500, 100, 80, 30), kScreen);
+    EXPECT_EQ(frame.right() + 1, kScreen.right() + 1);
+    EXPECT_EQ(frame.x(), 800);
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, RectangleNearTheLeftEdgeLeftAlignsToTheVisibleLeftEdge) {
+    const QRect visible(50, 0, 1550, 1000);
+    const QRect frame = LMFormatSelectionWndCtrl::frameFromRect(QRectF(60, 100, 80, 30), visible);
+    EXPECT_EQ(frame.x(), 50);
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, PopupWiderThanTheVisibleFrameEndsRightAligned) {
+    const QRect visible(0, 0, 600, 1000);
+    const QRect frame = LMFormatSelectionWndCtrl::frameFromRect(QRectF(300, 100, 10, 10), visible);
+    EXPECT_EQ(frame.x(), 600 - 800);
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, UntilTheDataArrivesTheIndicatorSpinsAndSearchIsDisabled) {
+    if (g_tabsBuilt)
+        GTEST_SKIP() << "an earlier test of this process built the tabs";
+    Popup();
+    ASSERT_NE(ctrl->loadPrgInd(), nullptr);
+    EXPECT_TRUE(ctrl->loadPrgInd()->isAnimating());
+    EXPECT_EQ(ctrl->tabHeaderView()->countOfTab(), 0u);
+    EXPECT_EQ(ctrl->currentFormatNodeView(), ctrl->loadPrgInd());
+    EXPECT_FALSE(ctrl->enableSearch());
+    EXPECT_FALSE(ctrl->searchField()->isEnabled());
+
+    LoadDefault();
+    EXPECT_EQ(ctrl->loadPrgInd(), nullptr);
+    EXPECT_TRUE(ctrl->searchField()->isEnabled());
+    EXPECT_GT(ctrl->tabHeaderView()->countOfTab(), 2u);
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, WithAnEmptyRecentListThePopupOpensOnTheFirstCategory) {
+    LoadDefault();
+    Popup();
+    EXPECT_EQ(ctrl->tabHeaderView()->indexOfSelected(), 1u);
+    EXPECT_EQ(ctrl->currentFormatNodeView(), ctrl->defFmtViewCtrls().first()->view());
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, WithRecentEntriesThePopupOpensOnRecent) {
+    TestSupport::LoadDefaultCatalogueIntoSharedDataSource();
+    auto source = ILMFmtPresetDataSource::Shared();
+    auto format = source->GetExternalFormatPresets()->ChildAt(0)->ChildAt(0);
+    source->PushRecentItem(format->FormatPresetAt(0), format);
+    ctrl->loadExternalDataInMainThread();
+    Popup();
+    EXPECT_EQ(ctrl->tabHeaderView()->indexOfSelected(), 0u);
+    EXPECT_EQ(ctrl->currentFormatNodeView(), ctrl->recentFmtViewCtrl()->view());
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, WithCategoriesAAndBTheStripReadsRecentABCustom) {
+    if (!LoadTwoCategories())
+        GTEST_SKIP() << "another catalogue was loaded by an earlier test of this process";
+    EXPECT_EQ(TabTitles(), (QStringList{QStringLiteral("Recent"), QStringLiteral("A"),
+                                        QStringLiteral("B"), QStringLiteral("Custom")}));
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, SearchingOnTheCustomTabSearchesTheCustomList) {
+    if (!LoadTwoCategories())
+        GTEST_SKIP() << "another catalogue was loaded by an earlier test of this process";
+    auto source = ILMFmtPresetDataSource::Shared();
+    auto mp4 = source->GetExternalFormatPresets()->ChildAt(0)->ChildAt(0);
+    auto mine = mp4->FormatPresetAt(0)->Clone();
+    mine->SetTitle("Mine for the tablet");
+    source->AddCustomPreset(mine, mp4);
+    auto other = mp4->FormatPresetAt(1)->Clone();
+    other->SetTitle("Another one");
+    source->AddCustomPreset(other, mp4);
+    ctrl->loadExternalDataInMainThread();
+    Popup();
+
+    ClickTab(3);
+    ASSERT_EQ(ctrl->currentFormatNodeView(), ctrl->customFmtViewCtrl()->view());
+    EXPECT_EQ(Titles(ctrl->customFmtViewCtrl()->fmtListView()).size(), 2);
+    QTest::keyClicks(ctrl->searchField(), QStringLiteral("tablet"));
+    EXPECT_EQ(Titles(ctrl->customFmtViewCtrl()->fmtListView()),
+              QStringList{QStringLiteral("Mine for the tablet")});
+    // The category lists were not searched.
+    EXPECT_EQ(Titles(ctrl->defFmtViewCtrls().at(0)->fmtListView()).size(), 2);
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, SearchingFiltersOnlyTheSelectedTabsList) {
+    if (!LoadTwoCategories())
+        GTEST_SKIP() << "another catalogue was loaded by an earlier test of this process";
+    Popup();
+    ClickTab(1);
+    QTest::keyClicks(ctrl->searchField(), QStringLiteral("720"));
+    LMFmtNodeViewCtrl* a = ctrl->defFmtViewCtrls().at(0);
+    EXPECT_EQ(Titles(a->nodeListView()), QStringList{QStringLiteral("MP4")});
+    EXPECT_EQ(Titles(a->fmtListView()), QStringList{QStringLiteral("HD 720p")});
+    EXPECT_EQ(Titles(ctrl->defFmtViewCtrls().at(1)->nodeListView()),
+              QStringList{QStringLiteral("Phone")});
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, SwitchingTabsEmptiesTheSearchField) {
+    LoadDefault();
+    Popup();
+    QTest::keyClicks(ctrl->searchField(), QStringLiteral("hd"));
+    EXPECT_EQ(ctrl->searchText(), QStringLiteral("hd"));
+    ClickTab(2);
+    EXPECT_EQ(ctrl->searchField()->text(), QString());
+    EXPECT_EQ(ctrl->searchText(), QString());
+    EXPECT_EQ(ctrl->tabHeaderView()->indexOfSelected(), 2u);
+    EXPECT_EQ(ctrl->currentFormatNodeView(), ctrl->defFmtViewCtrls().at(1)->view());
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, ClickingOutsideThePopupHidesItAndReportsADismissalOnce) {
+    LoadDefault();
+    QWidget host;
+    host.setGeometry(0, 0, 300, 200);
+    auto* button = new QPushButton(QStringLiteral("Elsewhere"), &host);
+    host.show();
+    Popup();
+    ASSERT_TRUE(ctrl->isVisible());
+
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_FALSE(ctrl->isVisible());
+    ASSERT_EQ(completions.size(), 1u);
+    EXPECT_EQ(completions[0].preset, nullptr);
+    EXPECT_EQ(completions[0].node, nullptr);
+    // Later losses of focus while hidden report nothing more.
+    QTest::mouseClick(button, Qt::LeftButton);
+    ctrl->windowDidResignKey();
+    EXPECT_EQ(completions.size(), 1u);
+    EXPECT_TRUE(ILMFmtPresetDataSource::Shared()->GetRecentList().empty());
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, EscapeDismissesThePopup) {
+    LoadDefault();
+    Popup();
+    QTest::keyClick(ctrl->searchField(), Qt::Key_Escape);
+    EXPECT_FALSE(ctrl->isVisible());
+    ASSERT_EQ(completions.size(), 1u);
+    EXPECT_EQ(completions[0].preset, nullptr);
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, ChoosingAPresetHidesThePopupAndPutsThePairOnTopOfRecent) {
+    LoadDefault();
+    Popup();
+    LMFmtNodeViewCtrl* first = ctrl->defFmtViewCtrls().first();
+    const QString chosen = Titles(first->fmtListView()).at(1);
+    ClickRow(first->fmtListView(), 1);
+
+    EXPECT_FALSE(ctrl->isVisible());
+    ASSERT_EQ(completions.size(), 1u);
+    ASSERT_NE(completions[0].preset, nullptr);
+    ASSERT_NE(completions[0].node, nullptr);
+    EXPECT_EQ(QString::fromStdString(completions[0].preset->Title()), chosen);
+    const std::string node = completions[0].node->Title();
+
+    // The loss of focus that follows the choice reports nothing.
+    ctrl->windowDidResignKey();
+    EXPECT_EQ(completions.size(), 1u);
+
+    Popup();
+    ClickTab(0);
+    auto recent = ILMFmtPresetDataSource::Shared()->GetRecentList();
+    ASSERT_FALSE(recent.empty());
+    EXPECT_EQ(recent.front()->FormatPreset()->Title(), chosen.toStdString());
+    EXPECT_EQ(recent.front()->FormatNode()->Title(), node);
+    const QStringList shown = Titles(ctrl->recentFmtViewCtrl()->recentListView());
+    ASSERT_FALSE(shown.isEmpty());
+    EXPECT_TRUE(shown.first().contains(chosen)) << shown.first().toStdString();
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, PressingEnterInTheFormatListChoosesTheCurrentPreset) {
+    LoadDefault();
+    Popup();
+    QAbstractItemView* list = ctrl->defFmtViewCtrls().first()->fmtListView();
+    list->setFocus();
+    list->setCurrentIndex(list->model()->index(2, 0));
+    QTest::keyClick(list, Qt::Key_Return);
+    ASSERT_EQ(completions.size(), 1u);
+    EXPECT_EQ(QString::fromStdString(completions[0].preset->Title()),
+              list->model()->index(2, 0).data().toString());
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, TypingWhileAListHasFocusGoesToTheSearchField) {
+    LoadDefault();
+    Popup();
+    QAbstractItemView* list = ctrl->defFmtViewCtrls().first()->fmtListView();
+    list->setFocus();
+    QTest::keyClicks(list, QStringLiteral("4k"));
+    EXPECT_EQ(ctrl->searchField()->text(), QStringLiteral("4k"));
+    EXPECT_EQ(ctrl->searchText(), QStringLiteral("4k"));
+    for (const QString& title : Titles(list))
+        EXPECT_TRUE(title.contains(QStringLiteral("4K"), Qt::CaseInsensitive) || title.isEmpty())
+            << title.toStdString();
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, ShowingAgainKeepsTheTabAndReloadsNothing) {
+    LoadDefault();
+    Popup();
+    ClickTab(3);
+    ctrl->windowDidResignKey();
+    Popup();
+    EXPECT_EQ(ctrl->tabHeaderView()->indexOfSelected(), 3u);
+    EXPECT_EQ(ctrl->currentFormatNodeView(), ctrl->defFmtViewCtrls().at(2)->view());
+    EXPECT_FALSE(ctrl->finishedSelecting());
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, AnOutOfRangeTabIndexChangesNothing) {
+    LoadDefault();
+    Popup();
+    QWidget* before = ctrl->currentFormatNodeView();
+    ctrl->setCurrentFormatNode(ctrl->defFmtViewCtrls().size() + 2);
+    EXPECT_EQ(ctrl->currentFormatNodeView(), before);
+    EXPECT_EQ(ctrl->tabHeaderView()->indexOfSelected(), 1u);
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, TheListFillsTheContentBelowTheStrip) {
+    LoadDefault();
+    Popup();
+    const QRect list = ctrl->currentFormatNodeView()->geometry();
+    EXPECT_EQ(list.top(), ctrl->tabHeaderView()->geometry().bottom() + 1);
+    EXPECT_EQ(list.width(), ctrl->contentView()->width());
+    EXPECT_EQ(list.bottom(), ctrl->contentView()->rect().bottom());
+    EXPECT_EQ(ctrl->size(), QSize(800, 450));
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, LoadingTwiceBuildsTheTabsOnce) {
+    LoadDefault();
+    const std::size_t tabs = ctrl->tabHeaderView()->countOfTab();
+    const qsizetype lists = ctrl->defFmtViewCtrls().size();
+    ctrl->loadExternalDataInMainThread();
+    EXPECT_EQ(ctrl->tabHeaderView()->countOfTab(), tabs);
+    EXPECT_EQ(ctrl->defFmtViewCtrls().size(), lists);
+    EXPECT_EQ(tabs, std::size_t(lists) + 2);
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, TabTitlesFollowALanguageChange) {
+    LoadDefault();
+    Popup();
+    LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageFrench);
+    EXPECT_EQ(TabTitles().first(), LMFormatInternationalizationMgr::sharedObject()->stringForKey(
+                                       QStringLiteral("Recent")));
+    EXPECT_NE(TabTitles().first(), QStringLiteral("Recent"));
+    EXPECT_NE(ctrl->searchField()->placeholderText(), QStringLiteral("Search"));
+}
