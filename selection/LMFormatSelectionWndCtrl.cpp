@@ -5,6 +5,7 @@
 #include "ILMFmtPresetDataSource.h"
 #include "LMFmtNodeViewCtrl.h"
 #include "LMFmtRecentViewCtrl.h"
+#include "LMFormatEditingWndCtrl.h"
 #include "LMFormatInternationalizationMgr.h"
 #include "LMProgressIndicator.h"
 #include "LMTabHeaderView.h"
@@ -84,6 +85,7 @@ LMFormatSelectionWndCtrl::~LMFormatSelectionWndCtrl() = default;
 
 void LMFormatSelectionWndCtrl::windowDidLoad() {
     m_ui->loadPrgInd->startAnimation();
+    LMFormatEditingWndCtrl::shared()->setDelegate(this);
     m_ui->contentView->installEventFilter(this);
     m_ui->contentView->setAutoFillBackground(false);
 
@@ -123,6 +125,10 @@ void LMFormatSelectionWndCtrl::popupSelection(const QRectF& rect, CompleteHandle
     m_completeHandler = std::move(handler);
     m_finishedSelecting = false;
     setGeometry(frameFromRect(rect));
+    popupAgain();
+}
+
+void LMFormatSelectionWndCtrl::popupAgain() {
     show();
     raise();
     activateWindow();
@@ -270,6 +276,24 @@ void LMFormatSelectionWndCtrl::viewControllerSelectFormat(
     m_finishedSelecting = true;
     hide();
     completeSelection(std::move(preset), std::move(node));
+}
+
+void LMFormatSelectionWndCtrl::viewControllerEditingFormat(QObject*,
+                                                           std::shared_ptr<ILMFormatPreset> preset,
+                                                           std::shared_ptr<ILMFormatNode> node) {
+    m_finishedSelecting = true;
+    qApp->removeEventFilter(this);
+    hide();
+    if (LMFormatEditingWndCtrl::shared()->startEditing(preset, node)) {
+        completeSelection(preset, node);
+        return;
+    }
+    popupAgain();
+    m_finishedSelecting = false;
+}
+
+void LMFormatSelectionWndCtrl::formatEditingWndCtrlDidCreateFormatPreset(LMFormatEditingWndCtrl*) {
+    customFmtViewCtrl()->loadFormatNode(ILMFmtPresetDataSource::Shared()->GetCustomList());
 }
 
 void LMFormatSelectionWndCtrl::completeSelection(std::shared_ptr<const ILMFormatPreset> preset,

@@ -3,6 +3,7 @@
 #include "ILMFormatNode.h"
 #include "ILMFormatPreset.h"
 #include "LMFormatDataDelegate.h"
+#include "LMFormatEditingWndCtrlDelegate.h"
 #include "LMSelectionExport.h"
 #include "LMTabHeaderViewDelegate.h"
 
@@ -32,7 +33,8 @@ class LMFormatSelectionWndCtrl;
 // One instance per process, made on first use; everything runs on the GUI thread.
 class LMSELECTION_EXPORT LMFormatSelectionWndCtrl : public QWidget,
                                                     public LMTabHeaderViewDelegate,
-                                                    public LMFormatDataDelegate {
+                                                    public LMFormatDataDelegate,
+                                                    public LMFormatEditingWndCtrlDelegate {
     Q_OBJECT
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
     Q_PROPERTY(bool enableSearch READ enableSearch WRITE setEnableSearch NOTIFY enableSearchChanged)
@@ -74,6 +76,13 @@ public:
     void viewControllerSelectFormat(QObject* ctrl,
                                     std::shared_ptr<const Lumeran::ILMFormatPreset> preset,
                                     std::shared_ptr<const Lumeran::ILMFormatNode> node) override;
+    // An edit request: the popup steps aside for the modal editor; a saved edit
+    // completes the showing with the edited preset, anything else brings the
+    // popup back as it was.
+    void viewControllerEditingFormat(QObject* ctrl,
+                                     std::shared_ptr<Lumeran::ILMFormatPreset> preset,
+                                     std::shared_ptr<Lumeran::ILMFormatNode> node) override;
+    void formatEditingWndCtrlDidCreateFormatPreset(LMFormatEditingWndCtrl* ctrl) override;
 
     LMTabHeaderView* tabHeaderView() const;
     LMFmtNodeViewCtrl* customFmtViewCtrl();
@@ -102,6 +111,8 @@ protected:
 private:
     LMFormatSelectionWndCtrl();
     void windowDidLoad();
+    // Shows the window where it is and takes the focus.
+    void popupAgain();
     void setupDefaultFormats();
     void cleanDefFormats();
     void completeSelection(std::shared_ptr<const Lumeran::ILMFormatPreset> preset,

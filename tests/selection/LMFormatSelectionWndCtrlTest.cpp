@@ -4,6 +4,9 @@
 #include "LMFmtNodeViewCtrl.h"
 #include "LMFmtRecentViewCtrl.h"
 #include "LMFormatCollectionView.h"
+#include "LMFormatDataView.h"
+#include "LMFormatDataViewItem.h"
+#include "LMFormatEditingWndCtrl.h"
 #include "LMFormatInternationalizationMgr.h"
 #include "LMProgressIndicator.h"
 #include "LMTabHeaderView.h"
@@ -11,6 +14,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -20,6 +24,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -148,6 +153,34 @@ protected:
     static void ClickRow(QAbstractItemView* view, int row) {
         const QRect rect = view->visualRect(view->model()->index(row, 0));
         QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, rect.center() - QPoint(40, 0));
+    }
+
+    // Rests the pointer on a row and clicks the edit button that the cell then
+    // shows. The editor runs modally inside the click; `whileEditing` runs in
+    // its loop and must close it.
+    static void ClickEdit(LMFormatCollectionView* view, int row,
+                          std::function<void()> whileEditing) {
+        const QRect rect = view->visualRect(view->model()->index(row, 0));
+        QTest::mouseMove(view->viewport(), rect.center());
+        LMFormatDataViewItem* item = view->itemAtIndex(row);
+        ASSERT_NE(item, nullptr);
+        ASSERT_TRUE(item->showEditing());
+        const QRect button =
+            item->dataView()->actionButtonGeometry(LMFormatDataView::ActionButton::Edit);
+        ASSERT_FALSE(button.isEmpty());
+        QTimer::singleShot(0, LMFormatEditingWndCtrl::shared(), std::move(whileEditing));
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, rect.topLeft() + button.center());
+    }
+
+    static QComboBox* EditorBox(const char* name) {
+        return LMFormatEditingWndCtrl::shared()->findChild<QComboBox*>(QLatin1StringView(name));
+    }
+
+    static void ClickEditorButton(const char* name) {
+        auto* button =
+            LMFormatEditingWndCtrl::shared()->findChild<QAbstractButton*>(QLatin1StringView(name));
+        ASSERT_NE(button, nullptr) << name;
+        QTest::mouseClick(button, Qt::LeftButton);
     }
 
     QTemporaryDir dir;
@@ -418,4 +451,90 @@ TEST_F(LMFormatSelectionWndCtrlTest, TabTitlesFollowALanguageChange) {
                                        QStringLiteral("Recent")));
     EXPECT_NE(TabTitles().first(), QStringLiteral("Recent"));
     EXPECT_NE(ctrl->searchField()->placeholderText(), QStringLiteral("Search"));
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, AnEditRequestHidesThePopupAndRunsTheEditor) {
+    LoadDefault();
+    Popup();
+    bool popupVisibleDuringEdit = true;
+    bool editorVisible = false;
+    ClickEdit(ctrl->defFmtViewCtrls().first()->fmtListView(), 0, [&] {
+        popupVisibleDuringEdit = ctrl->isVisible();
+        editorVisible = LMFormatEditingWndCtrl::shared()->isVisible();
+        LMFormatEditingWndCtrl::shared()->reject();
+    });
+    EXPECT_FALSE(popupVisibleDuringEdit);
+    EXPECT_TRUE(editorVisible);
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, SavingInTheEditorCompletesThePopupWithTheEditedPreset) {
+    LoadDefault();
+    Popup();
+    LMFormatCollectionView* list = ctrl->defFmtViewCtrls().first()->fmtListView();
+    std::string chosenResolution;
+    ClickEdit(list, 0, [&] {
+        QComboBox* resolution = EditorBox("cmbResolution");
+        ASSERT_TRUE(resolution->isEnabled());
+        const int next = (resolution->currentIndex() + 1) % resolution->count();
+        resolution->setCurrentIndex(next);
+        Q_EMIT resolution->activated(next);
+        chosenResolution = resolution->currentText().toStdString();
+        ClickEditorButton("btnSave");
+    });
+    EXPECT_FALSE(ctrl->isVisible());
+    ASSERT_EQ(completions.size(), 1u);
+    ASSERT_NE(completions[0].preset, nullptr);
+    auto video = completions[0].preset->CurrentVideoCodec();
+    ASSERT_NE(video, nullptr);
+    auto resolution = video->CurrentResolution();
+    ASSERT_NE(resolution, nullptr);
+    EXPECT_EQ(LMFormatInternationalizationMgr::sharedObject()
+                  ->stringForKey(QString::fromStdString(resolution->Name()))
+                  .toStdString(),
+              chosenResolution);
+    // The loss of focus that follows reports nothing more.
+    ctrl->windowDidResignKey();
+    EXPECT_EQ(completions.size(), 1u);
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest,
+       CancellingTheEditorBringsThePopupBackAndALaterLossOfFocusReportsADismissal) {
+    LoadDefault();
+    Popup();
+    ClickEdit(ctrl->defFmtViewCtrls().first()->fmtListView(), 1,
+              [] { QTest::keyClick(LMFormatEditingWndCtrl::shared(), Qt::Key_Escape); });
+    EXPECT_TRUE(ctrl->isVisible());
+    EXPECT_FALSE(ctrl->finishedSelecting());
+    EXPECT_TRUE(completions.empty());
+
+    ctrl->windowDidResignKey();
+    EXPECT_FALSE(ctrl->isVisible());
+    ASSERT_EQ(completions.size(), 1u);
+    EXPECT_EQ(completions[0].preset, nullptr);
+    EXPECT_EQ(completions[0].node, nullptr);
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, ANewCustomPresetFromTheEditorReloadsTheCustomTab) {
+    LoadDefault();
+    Popup();
+    LMFmtNodeViewCtrl* custom = ctrl->customFmtViewCtrl();
+    EXPECT_EQ(custom->nodeListView()->model()->rowCount(), 0);
+    ClickEdit(ctrl->defFmtViewCtrls().first()->fmtListView(), 0, [] {
+        auto* editor = LMFormatEditingWndCtrl::shared();
+        // Accept the proposed name in the prompt that the button opens.
+        QTimer::singleShot(0, editor, [editor] {
+            QWidget* prompt = QApplication::activeModalWidget();
+            ASSERT_NE(prompt, nullptr);
+            ASSERT_NE(prompt, editor);
+            auto* ok = prompt->findChild<QAbstractButton*>(QStringLiteral("btnOK"));
+            ASSERT_NE(ok, nullptr);
+            QTest::mouseClick(ok, Qt::LeftButton);
+            QTimer::singleShot(0, editor, [editor] { editor->reject(); });
+        });
+        ClickEditorButton("btnSaveNewPreset");
+    });
+    EXPECT_EQ(custom->nodeListView()->model()->rowCount(), 1);
+    EXPECT_EQ(custom->fmtListView()->model()->rowCount(), 1);
+    // The editor was cancelled in the end: the popup is back.
+    EXPECT_TRUE(ctrl->isVisible());
 }
