@@ -338,8 +338,15 @@ bool LMFormatSelectionWndCtrl::event(QEvent* event) {
 bool LMFormatSelectionWndCtrl::eventFilter(QObject* watched, QEvent* event) {
     if (watched == m_ui->contentView && event->type() == QEvent::Resize) {
         m_ui->tabHeaderView->resize(m_ui->contentView->width(), m_ui->tabHeaderView->height());
-        if (QWidget* current = currentFormatNodeView())
+        if (LMProgressIndicator* indicator = m_ui->loadPrgInd) {
+            // Until the data arrives the indicator is the content; it stays small
+            // and in the middle of the list's place.
+            QRect spot(QPoint(), indicator->sizeHint());
+            spot.moveCenter(frameOfFormatNodeView().center());
+            indicator->setGeometry(spot);
+        } else if (QWidget* current = currentFormatNodeView()) {
             current->setGeometry(frameOfFormatNodeView());
+        }
     } else if (event->type() == QEvent::MouseButtonPress && isVisible()) {
         const auto* widget = qobject_cast<QWidget*>(watched);
         const QWidget* window = widget ? widget->window() : nullptr;
