@@ -46,13 +46,27 @@ foreach(lib IN LISTS lmfp_libraries)
     target_include_directories(${lib} INTERFACE $<BUILD_INTERFACE:${lmfp_forward_dir}>)
 endforeach()
 
+# In a static build Qt puts each library's embedded resources (catalogue, string
+# tables) into object libraries that the library's users must link; they are
+# installed and exported with it.
+set(lmfp_resource_objects "")
+foreach(lib IN LISTS lmfp_libraries)
+    get_target_property(count ${lib} _qt_generated_resource_target_count)
+    if(count)
+        foreach(index RANGE 1 ${count})
+            list(APPEND lmfp_resource_objects ${lib}_resources_${index})
+        endforeach()
+    endif()
+endforeach()
+
 # INCLUDES DESTINATION adds include/ to every exported target, so that
 # <LMMediaFormatPopup/ILMMediaFormatPopup.h> works beside <ILMMediaFormatPopup.h>.
-install(TARGETS ${lmfp_libraries}
+install(TARGETS ${lmfp_libraries} ${lmfp_resource_objects}
     EXPORT LMMediaFormatPopupTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+    OBJECTS DESTINATION ${CMAKE_INSTALL_LIBDIR}/LMMediaFormatPopup-objects
     INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(FILES ${lmfp_public_headers} DESTINATION ${LMFP_INSTALL_INCLUDEDIR})
 
