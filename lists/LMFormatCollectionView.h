@@ -1,0 +1,104 @@
+#pragma once
+
+#include "LMListsExport.h"
+
+#include <QList>
+#include <QListView>
+#include <QString>
+
+#include <memory>
+
+class LMFormatCollectionModel;
+class LMFormatCollectionViewDataSource;
+class LMFormatCollectionViewDelegate;
+class LMFormatDataViewItem;
+
+// A virtualized list of format cells in one column, run by a controller the way a
+// collection view is run by its data source and delegate: the controller says
+// how many entries there are and fills a cell for each row the list needs
+// (makeItem() hands it one from the list's pool), and hears of the user's
+// selections. Only rows that are visible have a cell (an LMFormatDataViewItem);
+// cells of rows that scroll away go back to the pool, so a list of ten thousand
+// entries costs what its visible rows cost.
+//
+// The list tracks the row under the pointer and tells that row's cell of entry
+// and exit; clicks on a cell's edit or remove button go to its item. Only the
+// user's actions are reported to the delegate (a click on a cell; in a list that
+// selectsOnNavigation, the arrow keys; otherwise Enter or Return on the current
+// row); the program's own selections are not. Delete or Backspace on a removable
+// current cell asks to remove it. Printable keys are offered as textTyped() for
+// whoever owns a search field; Escape is left to the window.
+class LMLISTS_EXPORT LMFormatCollectionView : public QListView {
+    Q_OBJECT
+    Q_PROPERTY(int itemHeight READ itemHeight WRITE setItemHeight)
+    Q_PROPERTY(bool selectsOnNavigation READ selectsOnNavigation WRITE setSelectsOnNavigation)
+    Q_PROPERTY(QString emptyText READ emptyText WRITE setEmptyText)
+
+public:
+    explicit LMFormatCollectionView(QWidget* parent = nullptr);
+    ~LMFormatCollectionView() override;
+
+    // Neither is owned; without a data source the list is empty.
+    LMFormatCollectionViewDataSource* dataSource() const;
+    void setDataSource(LMFormatCollectionViewDataSource* dataSource);
+    LMFormatCollectionViewDelegate* delegate() const;
+    void setDelegate(LMFormatCollectionViewDelegate* delegate);
+
+    // Height of every row, in pixels.
+    int itemHeight() const;
+    void setItemHeight(int height);
+    // Whether moving with the keyboard selects (a list of nodes) or only moves
+    // the current row, Enter or Return then choosing it (a list of presets).
+    bool selectsOnNavigation() const;
+    void setSelectsOnNavigation(bool selects);
+    // Hint drawn in the middle of the list while it has no rows; empty for none.
+    QString emptyText() const;
+    void setEmptyText(const QString& text);
+
+    // For the data source: an unused cell from the pool (made when the pool is
+    // empty), to be filled for the row index and returned.
+    LMFormatDataViewItem* makeItem(int index);
+
+    // Asks the data source again for everything; drops the selection.
+    void reloadData();
+    // The data source already dropped these entries; only their rows go.
+    void deleteItemsAtIndexPaths(const QList<int>& indexPaths);
+    // Selects exactly these rows and scrolls the first one into view.
+    void selectItemsAtIndexPaths(const QList<int>& indexPaths,
+                                 QAbstractItemView::ScrollHint scrollPosition = PositionAtTop);
+    void deselectAll();
+    QList<int> selectionIndexPaths() const;
+
+    // The number of rows as the list knows it (the data source's count at the
+    // last reload, less deleted rows).
+    int numberOfItems() const;
+    // The cell of a row, or nullptr when the row has no cell now.
+    LMFormatDataViewItem* itemAtIndex(int index) const;
+    // The row of a cell, or -1 when the cell has no row now.
+    int indexPathForItem(const LMFormatDataViewItem* item) const;
+
+    LMFormatCollectionModel* collectionModel() const;
+
+Q_SIGNALS:
+    // Printable text typed while the list has the focus.
+    void textTyped(const QString& text);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyboardSearch(const QString& search) override;
+    bool viewportEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void updateGeometries() override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d;
+};
