@@ -14,7 +14,7 @@
 #include "LMFormatSelectionWndCtrl.h"
 #include "LMTabHeaderView.h"
 
-#include <QAbstractButton>
+#include <QPushButton>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>

@@ -138,7 +138,12 @@ struct LMFormatCollectionView::Private {
         const auto [first, last] = visibleRows();
         for (int row = first; row <= last; ++row)
             itemForRow(row, true);
+        // Rows moved under a pointer that may not have moved: the cells ask where
+        // it is, so the one under it lights up (and no other stays lit) even
+        // though no entry or exit arrives.
         hoverRow = rowUnderCursor();
+        for (auto& entry : live)
+            entry.second->resetMouseState();
     }
 
     int rowUnderCursor() const {

@@ -8,6 +8,8 @@
 #include "LMDemoScreenshot.h"
 #include "LMFmtNodeViewCtrl.h"
 #include "LMFormatCollectionView.h"
+#include "LMFormatDataView.h"
+#include "LMFormatDataViewItem.h"
 #include "LMFormatInternationalizationMgr.h"
 #include "LMFormatSelectionWndCtrl.h"
 #include "LMTabHeaderView.h"
@@ -67,7 +69,6 @@ void LMDemoTour::clickRow(QAbstractItemView* view, int row) {
 
 void LMDemoTour::hoverRow(QAbstractItemView* view, int row) {
     const QPoint point = view->visualRect(view->model()->index(row, 0)).center();
-    QCursor::setPos(view->viewport()->mapToGlobal(point));
     QTest::mouseMove(view->viewport(), point);
     settle();
 }
@@ -92,12 +93,18 @@ bool LMDemoTour::run() {
     auto mp4 = ILMFormatNode::MallocFormatNode("MP4", "MP4 file format", 100);
     auto phone = ILMFormatPreset::MallocFormatPreset("MP4", "MP4-custom0");
     phone->SetDescription("H.264 1280x720 / AAC, for my phone");
+    phone->SetFaceID(100);
     source->AddCustomPreset(phone, mp4);
     auto archive = ILMFormatPreset::MallocFormatPreset("MP4", "MP4-custom1");
     archive->SetDescription("H.264 / AAC, kept as the source");
+    archive->SetFaceID(100);
     source->AddCustomPreset(archive, mp4);
     source->SaveCustomList();
 
+    // Offscreen, the pointer goes to the first window that holds it, in the order
+    // the windows were made, whatever is on top; making the popup's window first
+    // lets the pointer reach the popup where it covers the host.
+    LMFormatSelectionWndCtrl::shared()->winId();
     m_host = std::make_unique<LMDemoHostWindow>();
     m_host->move(60, 40);
     m_host->show();
@@ -118,6 +125,9 @@ bool LMDemoTour::run() {
     if (!check(video && video->model()->rowCount() > 2, "the first category has no presets"))
         return false;
     hoverRow(video, 2);
+    auto* hovered = static_cast<LMFormatCollectionView*>(video)->itemAtIndex(2);
+    if (!check(hovered && hovered->showEditing(), "the cell under the pointer is not lit"))
+        return false;
     if (!shoot(QStringLiteral("02-category-hover")))
         return false;
 
