@@ -3,67 +3,148 @@
 #include "ILMArtworkImageGroupAdapter.h"
 #include "ILMFmtPresetDataSource.h"
 #include "ILMMediaFormatPopup.h"
+#include "LMDemoConverter.h"
 #include "LMFFmpegArguments.h"
 #include "LMFormatInternationalizationMgr.h"
 
+#include <QActionGroup>
+#include <QFileDialog>
 #include <QFontDatabase>
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 using namespace Lumeran;
 
+namespace {
+
+QString Localized(const std::string& key) {
+    return LMFormatInternationalizationMgr::sharedObject()->stringForKey(
+        QString::fromStdString(key));
+}
+
+} // namespace
+
 LMDemoHostWindow::LMDemoHostWindow(QWidget* parent)
-    : QMainWindow(parent), m_formatButton(new QPushButton(this)), m_titleLabel(new QLabel(this)),
-      m_descriptionLabel(new QLabel(this)), m_arguments(new QPlainTextEdit(this)),
-      m_status(new QLabel(this)) {
-    setWindowTitle(QStringLiteral("LMMediaFormatPopup demo"));
+    : QMainWindow(parent), m_source(new QLineEdit(this)), m_formatButton(new QPushButton(this)),
+      m_editButton(new QPushButton(QStringLiteral("Edit…"), this)), m_description(new QLabel(this)),
+      m_arguments(new QPlainTextEdit(this)),
+      m_convertButton(new QPushButton(QStringLiteral("Convert"), this)),
+      m_progress(new QProgressBar(this)), m_status(new QLabel(this)),
+      m_languages(new QActionGroup(this)), m_converter(new LMDemoConverter(this)) {
+    setWindowTitle(QStringLiteral("Format Demo — a small converter"));
     auto* central = new QWidget(this);
     auto* layout = new QVBoxLayout(central);
     layout->setContentsMargins(24, 20, 24, 20);
     layout->setSpacing(12);
-
-    auto* heading = new QLabel(QStringLiteral("Output format"), central);
-    QFont headingFont = heading->font();
-    headingFont.setBold(true);
-    headingFont.setPointSizeF(headingFont.pointSizeF() * 1.2);
-    heading->setFont(headingFont);
-    layout->addWidget(heading);
-
-    m_formatButton->setIconSize(QSize(32, 32));
-    m_formatButton->setMinimumHeight(48);
-    m_formatButton->setMinimumWidth(280);
-    m_formatButton->setStyleSheet(QStringLiteral("text-align: left; padding: 6px 12px;"));
-    connect(m_formatButton, &QPushButton::clicked, this, &LMDemoHostWindow::popupFormats);
-    auto* buttonRow = new QHBoxLayout();
-    buttonRow->addWidget(m_formatButton);
-    buttonRow->addStretch();
-    layout->addLayout(buttonRow);
-
     auto* form = new QFormLayout();
-    form->addRow(QStringLiteral("Preset:"), m_titleLabel);
-    form->addRow(QStringLiteral("Description:"), m_descriptionLabel);
-    layout->addLayout(form);
+    form->setHorizontalSpacing(14);
+    form->setVerticalSpacing(12);
 
-    layout->addWidget(new QLabel(QStringLiteral("FFmpeg output options:"), central));
+    auto* sourceRow = new QHBoxLayout();
+    m_source->setReadOnly(true);
+    m_source->setPlaceholderText(QStringLiteral("No file chosen"));
+    auto* browse = new QPushButton(QStringLiteral("Choose…"), this);
+    connect(browse, &QPushButton::clicked, this, &LMDemoHostWindow::chooseSource);
+    sourceRow->addWidget(m_source, 1);
+    sourceRow->addWidget(browse);
+    form->addRow(QStringLiteral("Source:"), sourceRow);
+
+    auto* formatRow = new QHBoxLayout();
+    m_formatButton->setIconSize(QSize(32, 32));
+    m_formatButton->setMinimumSize(300, 46);
+    m_formatButton->setStyleSheet(QStringLiteral("text-align: left; padding: 4px 10px;"));
+    m_formatButton->setToolTip(QStringLiteral("Choose the output format"));
+    connect(m_formatButton, &QPushButton::clicked, this, &LMDemoHostWindow::popupFormats);
+    connect(m_editButton, &QPushButton::clicked, this, &LMDemoHostWindow::editFormat);
+    formatRow->addWidget(m_formatButton);
+    formatRow->addWidget(m_editButton);
+    formatRow->addStretch();
+    form->addRow(QStringLiteral("Format:"), formatRow);
+    m_description->setWordWrap(true);
+    form->addRow(QString(), m_description);
+
     m_arguments->setReadOnly(true);
     m_arguments->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    m_arguments->setMaximumHeight(80);
-    layout->addWidget(m_arguments);
-    m_status->setStyleSheet(QStringLiteral("color: palette(mid);"));
+    m_arguments->setFixedHeight(64);
+    form->addRow(QStringLiteral("FFmpeg:"), m_arguments);
+    layout->addLayout(form);
+
+    auto* convertRow = new QHBoxLayout();
+    m_convertButton->setDefault(true);
+    m_convertButton->setEnabled(false);
+    connect(m_convertButton, &QPushButton::clicked, this, &LMDemoHostWindow::convert);
+    m_progress->setRange(0, 1000);
+    m_progress->setValue(0);
+    m_progress->setTextVisible(false);
+    convertRow->addWidget(m_convertButton);
+    convertRow->addWidget(m_progress, 1);
+    layout->addLayout(convertRow);
+    m_status->setWordWrap(true);
+    m_status->setTextInteractionFlags(Qt::TextSelectableByMouse);
     layout->addWidget(m_status);
     layout->addStretch();
     setCentralWidget(central);
-    resize(720, 400);
+    resize(760, 420);
+
+    connect(m_converter, &LMDemoConverter::progress, this, [this](double fraction) {
+        if (fraction < 0)
+            m_progress->setRange(0, 0); // busy until the source's length is known
+        else {
+            m_progress->setRange(0, 1000);
+            m_progress->setValue(int(fraction * 1000));
+        }
+    });
+    connect(m_converter, &LMDemoConverter::finished, this, &LMDemoHostWindow::conversionFinished);
+    connect(LMFormatInternationalizationMgr::sharedObject(),
+            &LMFormatInternationalizationMgr::languageDidChange, this,
+            &LMDemoHostWindow::refreshChoice);
+    buildLanguageMenu();
 
     // Until the user chooses, the host shows what the framework considers current:
     // the newest recent entry, or the built-in MP4 preset.
     if (auto current = ILMFmtPresetDataSource::Shared()->GetCurrentPreset())
         showChoice(current->FormatPreset(), current->FormatNode());
-    m_status->setText(QStringLiteral("Click the button to choose a format."));
-    m_completions = 0;
+    m_status->setText(QStringLiteral("Choose a source file and a format, then Convert."));
+}
+
+LMDemoHostWindow::~LMDemoHostWindow() = default;
+
+void LMDemoHostWindow::buildLanguageMenu() {
+    QMenu* menu = menuBar()->addMenu(QStringLiteral("&Language"));
+    auto* mgr = LMFormatInternationalizationMgr::sharedObject();
+    for (const QString& language : mgr->supportLanguages()) {
+        QAction* action = menu->addAction(language);
+        action->setCheckable(true);
+        action->setChecked(language == mgr->language());
+        m_languages->addAction(action);
+        // The popup and the editor follow at once, open or not.
+        connect(action, &QAction::triggered, mgr, [mgr, language] { mgr->setLanguage(language); });
+    }
+    connect(mgr, &LMFormatInternationalizationMgr::languageDidChange, this, [this, mgr] {
+        for (QAction* action : m_languages->actions())
+            action->setChecked(action->text() == mgr->language());
+    });
+}
+
+void LMDemoHostWindow::chooseSource() {
+    const QString path = QFileDialog::getOpenFileName(
+        this, QStringLiteral("Choose a source file"), m_source->text(),
+        QStringLiteral("Media files (*.mp4 *.mov *.mkv *.avi *.webm *.wav *.mp3 *.m4a *.flac);;"
+                       "All files (*)"));
+    if (!path.isEmpty())
+        setSource(path);
+}
+
+void LMDemoHostWindow::setSource(const QString& path) {
+    m_source->setText(path);
+    m_convertButton->setEnabled(!path.isEmpty() && m_preset && !m_converter->isRunning());
 }
 
 void LMDemoHostWindow::popupFormats() {
@@ -76,24 +157,60 @@ void LMDemoHostWindow::popupFormats() {
                std::shared_ptr<const ILMFormatNode> node) { showChoice(preset, node); });
 }
 
+void LMDemoHostWindow::editFormat() {
+    if (!m_preset)
+        return;
+    if (ILMMediaFormatPopup::Shared()->PopupEditing(m_preset, m_node)) {
+        refreshChoice();
+        m_status->setText(QStringLiteral("Settings saved."));
+    }
+}
+
 void LMDemoHostWindow::showChoice(std::shared_ptr<const ILMFormatPreset> preset,
                                   std::shared_ptr<const ILMFormatNode> node) {
-    ++m_completions;
     if (!preset || !node) {
         m_status->setText(QStringLiteral("The popup was dismissed; the format stays as it was."));
         return;
     }
-    m_preset = preset;
+    m_preset = preset->Clone();
     m_node = node;
-    auto* mgr = LMFormatInternationalizationMgr::sharedObject();
-    const QString nodeTitle = mgr->stringForKey(QString::fromStdString(node->Title()));
-    const QString presetTitle = mgr->stringForKey(QString::fromStdString(preset->Title()));
+    refreshChoice();
+    setSource(m_source->text());
+    m_status->setText(QStringLiteral("Format chosen."));
+}
+
+void LMDemoHostWindow::refreshChoice() {
+    if (!m_preset || !m_node)
+        return;
+    const QString nodeTitle = Localized(m_node->Title());
+    const QString presetTitle = Localized(m_preset->Title());
     m_formatButton->setText(nodeTitle + QStringLiteral(" — ") + presetTitle);
     m_formatButton->setIcon(ILMArtworkImageGroupAdapter::imageFromArtworkImageGroup(
-        ILMFmtPresetDataSource::Shared()->GetArtworkGroup(node->FaceID())));
-    m_titleLabel->setText(nodeTitle + QLatin1Char(' ') + presetTitle);
-    m_descriptionLabel->setText(mgr->stringForKey(QString::fromStdString(preset->Description())));
-    m_arguments->setPlainText(
-        QString::fromStdString(LMFFmpegArguments::Join(LMFFmpegArguments::OutputOptions(preset))));
-    m_status->setText(QStringLiteral("Chosen."));
+        ILMFmtPresetDataSource::Shared()->GetArtworkGroup(m_node->FaceID())));
+    m_description->setText(Localized(m_preset->Description()));
+    m_arguments->setPlainText(QString::fromStdString(
+        LMFFmpegArguments::Join(LMFFmpegArguments::OutputOptions(m_preset))));
+}
+
+void LMDemoHostWindow::convert() {
+    if (!m_converter->start(m_source->text(), m_preset)) {
+        m_status->setText(QStringLiteral("Nothing to convert: choose a source file and a format."));
+        return;
+    }
+    m_convertButton->setEnabled(false);
+    m_status->setText(QStringLiteral("Converting to ") +
+                      LMDemoConverter::outputPathFor(m_source->text(), m_preset) +
+                      QStringLiteral(" …"));
+}
+
+void LMDemoHostWindow::conversionFinished(bool ok, const QString& outputOrError) {
+    m_convertButton->setEnabled(true);
+    m_progress->setRange(0, 1000);
+    if (ok) {
+        m_progress->setValue(1000);
+        m_status->setText(QStringLiteral("Done: ") + outputOrError);
+    } else {
+        m_progress->setValue(0);
+        m_status->setText(QStringLiteral("The encode failed:\n") + outputOrError);
+    }
 }

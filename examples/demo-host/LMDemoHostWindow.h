@@ -7,37 +7,57 @@
 
 #include <memory>
 
+class LMDemoConverter;
+class QActionGroup;
 class QLabel;
+class QLineEdit;
 class QPlainTextEdit;
+class QProgressBar;
 class QPushButton;
 
-// The demo's main window: the host side of the framework. Its "Format" button
-// shows the current choice and pops the selector up under itself; the choice
-// comes back through the facade's callback and is shown with its FFmpeg
-// arguments.
+// The demo's main window, a small converter and the host side of the framework:
+// a source file; the "Format" button that shows the current choice and pops the
+// selector up under itself; "Edit…" that opens the preset editor on it; a
+// language menu; and "Convert", which runs FFmpeg with the chosen preset.
 class LMDemoHostWindow : public QMainWindow {
     Q_OBJECT
 
 public:
     explicit LMDemoHostWindow(QWidget* parent = nullptr);
+    ~LMDemoHostWindow() override;
 
     QPushButton* formatButton() const { return m_formatButton; }
-    std::shared_ptr<const Lumeran::ILMFormatPreset> currentPreset() const { return m_preset; }
+    QPushButton* editButton() const { return m_editButton; }
+    QPushButton* convertButton() const { return m_convertButton; }
+    LMDemoConverter* converter() const { return m_converter; }
+    std::shared_ptr<Lumeran::ILMFormatPreset> currentPreset() const { return m_preset; }
     std::shared_ptr<const Lumeran::ILMFormatNode> currentNode() const { return m_node; }
-    // How many times the popup's callback ran, and whether the last one was a dismissal.
-    int completions() const { return m_completions; }
 
+    void setSource(const QString& path);
     void popupFormats();
+    void editFormat();
+    void convert();
+    // Takes a choice from the popup; empty handles (a dismissal) keep the last one.
     void showChoice(std::shared_ptr<const Lumeran::ILMFormatPreset> preset,
                     std::shared_ptr<const Lumeran::ILMFormatNode> node);
 
 private:
+    void chooseSource();
+    void buildLanguageMenu();
+    void refreshChoice();
+    void conversionFinished(bool ok, const QString& outputOrError);
+
+    QLineEdit* m_source;
     QPushButton* m_formatButton;
-    QLabel* m_titleLabel;
-    QLabel* m_descriptionLabel;
+    QPushButton* m_editButton;
+    QLabel* m_description;
     QPlainTextEdit* m_arguments;
+    QPushButton* m_convertButton;
+    QProgressBar* m_progress;
     QLabel* m_status;
-    std::shared_ptr<const Lumeran::ILMFormatPreset> m_preset;
+    QActionGroup* m_languages;
+    LMDemoConverter* m_converter;
+    // The host's own copy of the chosen preset: the editor writes into it.
+    std::shared_ptr<Lumeran::ILMFormatPreset> m_preset;
     std::shared_ptr<const Lumeran::ILMFormatNode> m_node;
-    int m_completions = 0;
 };

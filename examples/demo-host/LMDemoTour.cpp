@@ -4,6 +4,7 @@
 #include "ILMFormatNode.h"
 #include "ILMFormatPreset.h"
 #include "ILMMediaFormatPopup.h"
+#include "LMDemoConverter.h"
 #include "LMDemoHostWindow.h"
 #include "LMDemoScreenshot.h"
 #include "LMFmtNodeViewCtrl.h"
@@ -18,16 +19,21 @@
 #include <QApplication>
 #include <QCursor>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QLineEdit>
+#include <QProcess>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 #include <cstdio>
 
 using namespace Lumeran;
 
-LMDemoTour::LMDemoTour(std::string cataloguePath, QString outputDir)
-    : m_cataloguePath(std::move(cataloguePath)), m_outputDir(std::move(outputDir)) {}
+LMDemoTour::LMDemoTour(std::string cataloguePath, QString outputDir, bool convert)
+    : m_cataloguePath(std::move(cataloguePath)), m_outputDir(std::move(outputDir)),
+      m_convert(convert) {}
 
 LMDemoTour::~LMDemoTour() = default;
 
@@ -175,6 +181,140 @@ bool LMDemoTour::run() {
         !shoot(QStringLiteral("07-host-with-choice")))
         return false;
 
+    if (!editorSteps() || (m_convert && !conversionSteps()))
+        return false;
     std::printf("%d screenshots written.\n", m_shots);
     return true;
+}
+
+bool LMDemoTour::shootEditor(std::shared_ptr<ILMFormatPreset> preset,
+                             std::shared_ptr<const ILMFormatNode> node, const QString& name) {
+    // The editor is modal: the picture is taken from inside its loop, which the
+    // same queued call then ends with Escape (a cancel).
+    bool shot = false;
+    QTimer::singleShot(0, this, [&] {
+        QWidget* editor = QApplication::activeModalWidget();
+        shot = editor && shoot(name);
+        if (editor)
+            QTest::keyClick(editor, Qt::Key_Escape);
+    });
+    ILMMediaFormatPopup::Shared()->PopupEditing(std::move(preset), std::move(node));
+    settle();
+    return check(shot, "the editor did not open");
+}
+
+bool LMDemoTour::editorSteps() {
+    auto catalogue = ILMFmtPresetDataSource::Shared()->GetExternalFormatPresets();
+    if (!check(catalogue && catalogue->ChildCount() >= 2, "the catalogue has no categories"))
+        return false;
+    const std::shared_ptr<const ILMFormatNode> mp4 =
+        std::as_const(*catalogue->ChildAt(0)).ChildAt(0);
+    const std::shared_ptr<const ILMFormatNode> wav =
+        std::as_const(*catalogue->ChildAt(1)).ChildAt(0);
+
+    // 8. The editor on the host's current choice, opened with "Edit…".
+    bool shot = false;
+    QTimer::singleShot(0, this, [&] {
+        QWidget* editor = QApplication::activeModalWidget();
+        shot = editor && shoot(QStringLiteral("08-editor"));
+        if (!editor)
+            return;
+        // 9. "Save as New Preset" asks for a name over the editor.
+        auto* saveAsNew = editor->findChild<QAbstractButton*>(QStringLiteral("btnSaveNewPreset"));
+        if (saveAsNew) {
+            QTest::mouseClick(saveAsNew, Qt::LeftButton);
+            settle();
+            shot = shoot(QStringLiteral("09-name-prompt")) && shot;
+            if (QWidget* prompt = QApplication::activeModalWidget(); prompt && prompt != editor)
+                QTest::keyClick(prompt, Qt::Key_Escape);
+            settle();
+        }
+        QTest::keyClick(editor, Qt::Key_Escape);
+    });
+    QTest::mouseClick(m_host->editButton(), Qt::LeftButton);
+    settle();
+    if (!check(shot, "the editor or its name prompt did not open"))
+        return false;
+
+    // 10. A preset whose video codec is the automatic one: nothing to choose
+    //     beyond the encoder.
+    auto automatic = mp4->FormatPresetAt(0)->Clone();
+    for (int i = 0; i < automatic->VideoCodecCount(); ++i) {
+        if (automatic->VideoCodecAt(i)->IsAutoValue())
+            automatic->SetCurrentVideoCodec(i);
+    }
+    if (!shootEditor(automatic, mp4, QStringLiteral("10-editor-automatic-codec")))
+        return false;
+
+    // 11. A preset without a video stream: the video section is disabled.
+    return shootEditor(wav->FormatPresetAt(0)->Clone(), wav,
+                       QStringLiteral("11-editor-audio-only"));
+}
+
+bool LMDemoTour::conversionSteps() {
+    // 12. A real conversion of a generated clip: ten seconds of test picture and tone.
+    const QDir media(QDir(m_outputDir).filePath(QStringLiteral("media")));
+    if (!check(media.mkpath(QStringLiteral(".")), "cannot make the media folder"))
+        return false;
+    const QString clip = media.filePath(QStringLiteral("tour-clip.mp4"));
+    QProcess ffmpeg;
+    ffmpeg.start(QStringLiteral("ffmpeg"),
+                 {QStringLiteral("-hide_banner"),
+                  QStringLiteral("-loglevel"),
+                  QStringLiteral("error"),
+                  QStringLiteral("-y"),
+                  QStringLiteral("-f"),
+                  QStringLiteral("lavfi"),
+                  QStringLiteral("-i"),
+                  QStringLiteral("testsrc2=duration=10:size=640x360:rate=25"),
+                  QStringLiteral("-f"),
+                  QStringLiteral("lavfi"),
+                  QStringLiteral("-i"),
+                  QStringLiteral("sine=frequency=440:duration=10"),
+                  QStringLiteral("-c:v"),
+                  QStringLiteral("libx264"),
+                  QStringLiteral("-preset"),
+                  QStringLiteral("ultrafast"),
+                  QStringLiteral("-c:a"),
+                  QStringLiteral("aac"),
+                  QStringLiteral("-shortest"),
+                  clip});
+    if (!check(ffmpeg.waitForFinished(120000) && ffmpeg.exitCode() == 0,
+               "ffmpeg could not make the tour's clip"))
+        return false;
+    m_host->setSource(clip);
+
+    // Choose "HD 720p" of the first format.
+    QTest::mouseClick(m_host->formatButton(), Qt::LeftButton);
+    settle();
+    clickTab(1);
+    QAbstractItemView* list = categoryPresetList(0);
+    int row = 0;
+    for (int r = 0; r < list->model()->rowCount(); ++r) {
+        if (list->model()->index(r, 0).data().toString().contains(QStringLiteral("720p")))
+            row = r;
+    }
+    clickRow(list, row);
+
+    QSignalSpy finished(m_host->converter(), &LMDemoConverter::finished);
+    QSignalSpy progress(m_host->converter(), &LMDemoConverter::progress);
+    QTest::mouseClick(m_host->convertButton(), Qt::LeftButton);
+    // Halfway through, the progress bar is worth a picture.
+    QElapsedTimer timer;
+    timer.start();
+    bool halfway = false;
+    while (finished.isEmpty() && timer.elapsed() < 180000) {
+        QTest::qWait(50);
+        if (!halfway && !progress.isEmpty() && progress.last().at(0).toDouble() >= 0.3) {
+            halfway = shoot(QStringLiteral("12-converting"));
+        }
+    }
+    if (!check(!finished.isEmpty(), "the conversion did not finish"))
+        return false;
+    if (!check(finished.first().at(0).toBool(), qPrintable(finished.first().at(1).toString())))
+        return false;
+    if (!halfway && !shoot(QStringLiteral("12-converting")))
+        return false;
+    std::printf("  converted: %s\n", qPrintable(finished.first().at(1).toString()));
+    return shoot(QStringLiteral("13-converted"));
 }

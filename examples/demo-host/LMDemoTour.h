@@ -3,6 +3,9 @@
 #include <QObject>
 #include <QString>
 
+#include "ILMFormatNode.h"
+#include "ILMFormatPreset.h"
+
 #include <memory>
 #include <string>
 
@@ -16,7 +19,7 @@ class LMDemoTour : public QObject {
     Q_OBJECT
 
 public:
-    LMDemoTour(std::string cataloguePath, QString outputDir);
+    LMDemoTour(std::string cataloguePath, QString outputDir, bool convert);
     ~LMDemoTour() override;
 
     // Runs every step; false (with a message on stderr) when a step fails.
@@ -31,9 +34,14 @@ private:
     void hoverRow(QAbstractItemView* view, int row);
     QAbstractItemView* categoryPresetList(int category) const;
     QAbstractItemView* customPresetList() const;
+    bool editorSteps();
+    bool shootEditor(std::shared_ptr<Lumeran::ILMFormatPreset> preset,
+                     std::shared_ptr<const Lumeran::ILMFormatNode> node, const QString& name);
+    bool conversionSteps();
 
     std::string m_cataloguePath;
     QString m_outputDir;
     std::unique_ptr<LMDemoHostWindow> m_host;
+    bool m_convert;
     int m_shots = 0;
 };

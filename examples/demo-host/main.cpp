@@ -33,8 +33,12 @@ int main(int argc, char** argv) {
         QStringLiteral("tour"),
         QStringLiteral("Walk through the popup and write a screenshot of every step to dir."),
         QStringLiteral("dir"));
+    const QCommandLineOption noConversion(
+        QStringLiteral("tour-without-conversion"),
+        QStringLiteral("Leave the conversion out of the tour (a second pass at another scale)."));
     parser.addOption(catalogue);
     parser.addOption(tour);
+    parser.addOption(noConversion);
     parser.process(app);
 
     const std::string cataloguePath = parser.isSet(catalogue)
@@ -46,7 +50,7 @@ int main(int argc, char** argv) {
         QTemporaryDir settingsDir;
         ILMAppSettings::UseSettingsFile(
             settingsDir.filePath(QStringLiteral("demo.ini")).toStdString());
-        LMDemoTour demoTour(cataloguePath, parser.value(tour));
+        LMDemoTour demoTour(cataloguePath, parser.value(tour), !parser.isSet(noConversion));
         return demoTour.run() ? 0 : 1;
     }
 
