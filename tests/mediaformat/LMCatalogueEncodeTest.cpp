@@ -36,7 +36,9 @@ struct PresetCase {
 };
 
 // Test names and failure messages show the preset's path, not its bytes.
-void PrintTo(const PresetCase& presetCase, std::ostream* out) { *out << presetCase.path; }
+void PrintTo(const PresetCase& presetCase, std::ostream* out) {
+    *out << presetCase.path;
+}
 
 std::vector<PresetCase> CataloguePresets() {
     std::vector<PresetCase> cases;
