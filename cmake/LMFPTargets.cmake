@@ -64,6 +64,6 @@ function(lmfp_add_test target)
     target_link_libraries(${target} PRIVATE ${ARG_LIBS} lmfp_testsupport GTest::gtest GTest::gmock)
     include(GoogleTest)
     gtest_discover_tests(${target}
-        PROPERTIES LABELS "${ARG_LABEL}" ENVIRONMENT "QT_QPA_PLATFORM=offscreen"
+        PROPERTIES LABELS "${ARG_LABEL}" ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 120
         DISCOVERY_TIMEOUT 60)
 endfunction()
