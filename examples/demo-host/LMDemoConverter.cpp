@@ -26,15 +26,11 @@ LMDemoConverter::~LMDemoConverter() {
 
 QString LMDemoConverter::outputPathFor(const QString& source,
                                        const std::shared_ptr<const ILMFormatPreset>& preset) {
+    // "-converted" keeps the output's name apart from the source's, whatever
+    // the source's extension, so the source is never written over.
     const QFileInfo info(source);
-    const QString extension = QString::fromStdString(LMFFmpegArguments::FileExtension(preset));
-    QString path =
-        info.dir().filePath(info.completeBaseName() + QStringLiteral("-converted.") + extension);
-    // A source that already carries that name is never overwritten.
-    if (QFileInfo(path) == info)
-        path = info.dir().filePath(info.completeBaseName() + QStringLiteral("-converted-2.") +
-                                   extension);
-    return path;
+    return info.dir().filePath(info.completeBaseName() + QStringLiteral("-converted.") +
+                               QString::fromStdString(LMFFmpegArguments::FileExtension(preset)));
 }
 
 bool LMDemoConverter::start(const QString& source, std::shared_ptr<const ILMFormatPreset> preset) {
