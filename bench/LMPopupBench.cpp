@@ -246,9 +246,24 @@ private:
 
 } // namespace
 
+// The offscreen platform warns on every showing that it cannot raise a window;
+// the figures would drown in it.
+QtMessageHandler g_previousHandler = nullptr;
+
+void QuietOffscreenWarnings(QtMsgType type, const QMessageLogContext& context,
+                            const QString& message) {
+    if (message.contains(QStringLiteral("does not support")))
+        return;
+    if (g_previousHandler)
+        g_previousHandler(type, context, message);
+    else
+        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
+}
+
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    g_previousHandler = qInstallMessageHandler(QuietOffscreenWarnings);
     QApplication app(argc, argv);
     QTemporaryDir dir;
     ILMAppSettings::UseSettingsFile(dir.filePath(QStringLiteral("bench.ini")).toStdString());
