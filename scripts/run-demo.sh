@@ -21,7 +21,7 @@ JSON
 }
 
 mkdir -p "$shots/2x"
-rm -f "$shots"/*.png "$shots"/2x/*.png
+rm -rf "$shots"/*.png "$shots"/2x/*.png "$shots"/*.mp4 "$shots"/media
 screen_config "$build/offscreen-1x.json" 1
 screen_config "$build/offscreen-2x.json" 2
 # The offscreen platform cannot raise windows and says so for every popup.
