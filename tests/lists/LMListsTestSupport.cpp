@@ -6,6 +6,7 @@
 #include "LMFormatDataViewItem.h"
 
 #include <QCursor>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QTest>
 #include <QWidget>
@@ -87,6 +88,8 @@ bool ShowAndWait(QWidget* widget, int width, int height) {
     ParkCursor();
     widget->resize(width, height);
     widget->show();
+    // Without a window manager nothing activates a new window by itself.
+    widget->activateWindow();
     return QTest::qWaitForWindowExposed(widget);
 }
 
@@ -107,6 +110,10 @@ QPoint ButtonCenter(const LMFormatCollectionView* view, int row,
 
 void HoverRow(LMFormatCollectionView* view, int row) {
     QTest::mouseMove(view->viewport(), RowCenter(view, row));
+    // On a real display the pointer is warped, and the list hears of it as a
+    // window-system event a moment later; offscreen it has heard already.
+    if (QGuiApplication::platformName() != QLatin1StringView("offscreen"))
+        QTest::qWait(100);
 }
 
 void ClickRow(LMFormatCollectionView* view, int row) {

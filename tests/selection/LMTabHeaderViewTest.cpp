@@ -428,6 +428,8 @@ TEST_F(LMTabHeaderViewTest, ClickingATabLeavesTheFocusInTheSearchField) {
     auto* search = new QLineEdit(&window);
     search->setGeometry(600, 8, 190, 24);
     window.show();
+    // Without a window manager nothing activates a new window by itself.
+    window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     search->setFocus();
     ASSERT_TRUE(search->hasFocus());
