@@ -5,6 +5,7 @@
 #include "ILMFormatNode.h"
 #include "ILMFormatPreset.h"
 #include "LMCoreExport.h"
+#include "LMPresetBackup.h"
 
 #include <functional>
 #include <memory>
@@ -88,6 +89,25 @@ public:
     // The entries of list whose title or description contains key, in list
     // order and as the same objects; the whole list for an empty key.
     virtual RecentList SearchFormatPresets(const RecentList& list, const std::string& key) = 0;
+
+    // ---- Keeping the stored lists safe ----
+    // (After the operations above, whose order hosts built against rely on.)
+    enum class StoredList { Recent, Custom };
+    // Whether the last save reached the settings store. A save that failed (a
+    // read-only or full disk, a store written by a newer version) keeps the change
+    // in memory; the next save of either list tries that list again.
+    virtual bool LastSaveSucceeded() const = 0;
+    // Called on the saving thread with one line that says what could not be saved
+    // and why, each time a save fails; the same line goes to the log. Replaces any
+    // earlier handler; an empty function removes it.
+    virtual void SetSaveFailureHandler(std::function<void(const std::string& message)> handler) = 0;
+    // Earlier values of a list kept beside the settings, newest first: the last
+    // values that saves replaced and any value that could not be read in full.
+    virtual std::vector<LMPresetBackup> GetBackups(StoredList list) const = 0;
+    // Makes backup number index (0 = newest, as GetBackups() lists them) the list
+    // in memory; the caller saves it, as after any change. False when the backup
+    // holds nothing readable.
+    virtual bool RestoreBackup(StoredList list, int index) = 0;
 
 protected:
     ILMFmtPresetDataSource() = default;

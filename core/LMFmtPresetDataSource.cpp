@@ -1,12 +1,13 @@
 #include "LMFmtPresetDataSource.h"
 
-#include "ILMAppSettings.h"
-#include "ILMBase64Codec.h"
 #include "ILMFileProvider.h"
 #include "ILMJsonReader.h"
-#include "ILMJsonWriter.h"
 #include "ILMLogConfig.h"
 #include "ILMStringHelper.h"
+#include "LMCatalogueLoadHook_p.h"
+#include "LMFormatReadOptions.h"
+#include "LMLoaderExitGuard.h"
+#include "LMStoredList.h"
 
 #include <algorithm>
 #include <chrono>
@@ -43,17 +44,37 @@ bool Contains(const std::string& text, const std::string& lowerKey) {
 }
 
 // Runs on the std::async worker: the whole parse stays off the caller's thread.
-std::shared_ptr<ILMFormatNode> LoadExternalTree(const std::string& path) {
-    const auto json = ILMJsonReader::ReadJsonFile(path, nullptr);
-    if (json)
-        return ILMFormatNode::MallocFormatNode(json);
-    ILMLogConfig::Printf("Failed load external format %s", path.c_str());
+// Whatever goes wrong there (an exception included) ends as an empty tree and the
+// one log line, never as an exception on the thread that collects the result; a
+// load cancelled at exit ends quietly.
+std::shared_ptr<ILMFormatNode> LoadExternalTree(const std::string& path,
+                                                const std::atomic<bool>& cancel) {
+    try {
+        LMCatalogueLoadHook::Run(path);
+        const auto json = cancel ? nullptr : ILMJsonReader::ReadJsonFile(path, nullptr);
+        if (!json) {
+            if (!cancel)
+                ILMLogConfig::Printf("Failed load external format %s", path.c_str());
+            return {};
+        }
+        LMFormatReadOptions options;
+        options.cancel = &cancel;
+        return ILMFormatNode::MallocFormatNode(json, options);
+    } catch (const std::exception& e) {
+        ILMLogConfig::Printf("Failed load external format %s: %s", path.c_str(), e.what());
+    } catch (...) {
+        ILMLogConfig::Printf("Failed load external format %s", path.c_str());
+    }
     return {};
 }
 
 } // namespace
 
-LMFmtPresetDataSource::LMFmtPresetDataSource() {
+LMFmtPresetDataSource::LMFmtPresetDataSource()
+    : m_recentStore(std::make_unique<LMStoredList>(GetRecentNodeKey(), LMStoredList::Kind::Recent,
+                                                   MakeDefaultRecentNode())),
+      m_customStore(std::make_unique<LMStoredList>(GetCustomNodeKey(), LMStoredList::Kind::Custom,
+                                                   MakeDefaultCustomNode())) {
     m_defaultPreset = MakeDefaultPreset();
     m_recentRoot = LoadNode(GetRecentNodeKey());
     if (!m_recentRoot)
@@ -73,11 +94,18 @@ void LMFmtPresetDataSource::AsyncLoadExternalDataSource(const std::string& path,
     const std::string artworkPath =
         ILMFileProvider::AppendPathExtension(ILMFileProvider::RemovePathExtension(path), "icfg");
     m_artworkMgr = ILMArtworkImageMgr::MallocArtworkImageMgr(artworkPath, nullptr);
-    m_pending = std::async(std::launch::async, [path] { return LoadExternalTree(path); }).share();
-    m_loader = std::thread([pending = m_pending, completion = std::move(completion)] {
+    auto load = std::make_shared<LMLoaderExitGuard::Load>();
+    m_pending = std::async(std::launch::async, [path, load] {
+                    return LoadExternalTree(path, load->cancel);
+                }).share();
+    m_loader = std::thread([pending = m_pending, load, completion = std::move(completion)] {
         pending.wait();
-        if (completion)
+        const std::lock_guard lock(load->completing);
+        if (completion && !load->cancel)
             completion();
+    });
+    LMLoaderExitGuard::Watch(load, [pending = m_pending](std::chrono::milliseconds timeout) {
+        return pending.wait_for(timeout) == std::future_status::ready;
     });
 }
 
@@ -130,24 +158,79 @@ std::shared_ptr<const ILMFmtPresetRecentItem> LMFmtPresetDataSource::MakeDefault
 
 // ---- Persistence -----------------------------------------------------------------
 
+LMStoredList& LMFmtPresetDataSource::StoreFor(const std::string& key) const {
+    return key == GetRecentNodeKey() ? *m_recentStore : *m_customStore;
+}
+
+// Reads what can be read; a value that could not be read in full has been put
+// aside by the store before anything can overwrite it.
 std::shared_ptr<ILMFormatNode> LMFmtPresetDataSource::LoadNode(const std::string& key) const {
-    const std::string text = ILMAppSettings::Shared()->StringValue(key);
-    if (text.empty())
-        return {};
-    const std::string decoded = ILMBase64Codec::Decode(text);
-    if (decoded.empty())
-        return {};
-    return ILMFormatNode::MallocFormatNode(ILMJsonReader::ReadJsonString(decoded, nullptr));
+    return StoreFor(key).Load();
 }
 
 void LMFmtPresetDataSource::SaveNode(std::shared_ptr<const ILMFormatNode> node,
                                      const std::string& key) const {
     if (!node || key.empty())
         return;
-    const std::string text = ILMJsonWriter::WriteJsonString(node->ToJson());
-    const auto settings = ILMAppSettings::Shared();
-    settings->SetStringValue(ILMBase64Codec::Encode(text), key);
-    settings->Synchronize();
+    LMStoredList& store = StoreFor(key);
+    std::shared_ptr<ILMFormatNode> merged;
+    m_lastSaveOk = store.Save(node, &merged);
+    (key == GetRecentNodeKey() ? m_recentUnsaved : m_customUnsaved) = !m_lastSaveOk;
+    if (!m_lastSaveOk) {
+        if (m_saveFailureHandler)
+            m_saveFailureHandler("Could not save " + key + ": " + store.LastError());
+        return;
+    }
+    if (merged)
+        ReplaceRoot(key, std::move(merged));
+}
+
+// Another process saved too: what is in memory becomes what was written.
+void LMFmtPresetDataSource::ReplaceRoot(const std::string& key,
+                                        std::shared_ptr<ILMFormatNode> root) const {
+    if (key == GetRecentNodeKey()) {
+        m_recentRoot = std::move(root);
+        m_recentList = MakeRecentList(m_recentRoot);
+    } else {
+        m_customRoot = std::move(root);
+    }
+}
+
+// Saves key's list, then the other one too when its last save failed.
+void LMFmtPresetDataSource::SaveWithRetry(const std::string& key) const {
+    const bool recent = key == GetRecentNodeKey();
+    SaveNode(recent ? m_recentRoot : m_customRoot, key);
+    const bool ok = m_lastSaveOk;
+    if (recent ? m_customUnsaved : m_recentUnsaved)
+        SaveNode(recent ? m_customRoot : m_recentRoot,
+                 recent ? GetCustomNodeKey() : GetRecentNodeKey());
+    m_lastSaveOk = ok && m_lastSaveOk;
+}
+
+bool LMFmtPresetDataSource::LastSaveSucceeded() const {
+    return m_lastSaveOk;
+}
+
+void LMFmtPresetDataSource::SetSaveFailureHandler(
+    std::function<void(const std::string& message)> handler) {
+    m_saveFailureHandler = std::move(handler);
+}
+
+std::vector<LMPresetBackup> LMFmtPresetDataSource::GetBackups(StoredList list) const {
+    return (list == StoredList::Recent ? m_recentStore : m_customStore)->Backups();
+}
+
+bool LMFmtPresetDataSource::RestoreBackup(StoredList list, int index) {
+    const bool recent = list == StoredList::Recent;
+    const LMStoredList& store = recent ? *m_recentStore : *m_customStore;
+    const auto backups = store.Backups();
+    if (index < 0 || index >= static_cast<int>(backups.size()))
+        return false;
+    auto root = store.ReadBackup(backups[static_cast<std::size_t>(index)]);
+    if (!root)
+        return false;
+    ReplaceRoot(recent ? GetRecentNodeKey() : GetCustomNodeKey(), std::move(root));
+    return true;
 }
 
 std::string LMFmtPresetDataSource::GetRecentNodeKey() const {
@@ -241,7 +324,7 @@ bool LMFmtPresetDataSource::RemoveRecentItem(std::shared_ptr<const ILMFmtPresetR
 }
 
 void LMFmtPresetDataSource::SaveRecentList() const {
-    SaveNode(m_recentRoot, GetRecentNodeKey());
+    SaveWithRetry(GetRecentNodeKey());
 }
 
 // ---- Custom list -----------------------------------------------------------------
@@ -275,13 +358,19 @@ bool LMFmtPresetDataSource::RemoveCustomPreset(std::shared_ptr<const ILMFormatPr
     if (!child)
         return false;
     const bool removed = child->RemoveFormatPreset(preset->Title());
-    if (removed && child->FormatPresetCount() == 0)
-        m_customRoot->RemoveChild(child->Title());
+    if (removed && child->FormatPresetCount() == 0) {
+        // A group that still carries presets this version cannot read is only
+        // set aside: it leaves the list but is saved again as it was.
+        if (ILMFormatNode::UnreadableEntryCount(child) > 0)
+            ILMFormatNode::SetChildAside(m_customRoot, child->Title());
+        else
+            m_customRoot->RemoveChild(child->Title());
+    }
     return removed;
 }
 
 void LMFmtPresetDataSource::SaveCustomList() const {
-    SaveNode(m_customRoot, GetCustomNodeKey());
+    SaveWithRetry(GetCustomNodeKey());
 }
 
 // ---- Search ----------------------------------------------------------------------

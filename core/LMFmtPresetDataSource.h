@@ -4,10 +4,14 @@
 #include "ILMFmtPresetDataSource.h"
 #include "LMCoreExport.h"
 
+#include <atomic>
 #include <future>
+#include <memory>
 #include <thread>
 
 namespace Lumeran {
+
+class LMStoredList;
 
 // The preset data source. Hosts reach it through ILMFmtPresetDataSource::Shared();
 // this header is not installed. Tests, tools and benchmarks make their own
@@ -15,6 +19,7 @@ namespace Lumeran {
 //
 // Destroying an instance whose load has not been waited for ends the process, as
 // destroying any running std::thread does; call WaitForLoadingComplete() first.
+// (The shared instance is never destroyed; at exit its load is abandoned.)
 class LMCORE_EXPORT LMFmtPresetDataSource final : public ILMFmtPresetDataSource {
 public:
     // Reads the recent and custom trees from ILMAppSettings::Shared().
@@ -48,6 +53,10 @@ public:
     SearchFormatPresets(std::shared_ptr<const ILMFormatNode> node, const std::string& key,
                         std::shared_ptr<ILMFormatNode> parent) override;
     RecentList SearchFormatPresets(const RecentList& list, const std::string& key) override;
+    bool LastSaveSucceeded() const override;
+    void SetSaveFailureHandler(std::function<void(const std::string& message)> handler) override;
+    std::vector<LMPresetBackup> GetBackups(StoredList list) const override;
+    bool RestoreBackup(StoredList list, int index) override;
 
     // The "Recent" tree behind the recent list (oldest child first), as it will
     // be saved; for inspection by tools and tests.
@@ -63,10 +72,15 @@ private:
     std::shared_ptr<ILMFormatNode> MakeDefaultCustomNode() const;
     RecentList MakeRecentList(std::shared_ptr<const ILMFormatNode> recentNode) const;
 
-    std::shared_ptr<ILMFormatNode> m_customRoot;
+    LMStoredList& StoreFor(const std::string& key) const;
+    void ReplaceRoot(const std::string& key, std::shared_ptr<ILMFormatNode> root) const;
+    void SaveWithRetry(const std::string& key) const;
+
+    // The trees are replaced when a save merged in what another process stored.
+    mutable std::shared_ptr<ILMFormatNode> m_customRoot;
     std::shared_ptr<ILMFormatNode> m_externalRoot;
-    std::shared_ptr<ILMFormatNode> m_recentRoot;
-    RecentList m_recentList;
+    mutable std::shared_ptr<ILMFormatNode> m_recentRoot;
+    mutable RecentList m_recentList;
     std::shared_ptr<const ILMFmtPresetRecentItem> m_defaultPreset;
     std::shared_ptr<ILMArtworkImageMgr> m_artworkMgr;
     // The load's result. The notifier thread waits on a copy of it rather than on
@@ -74,6 +88,16 @@ private:
     // on that same object is a data race (and may free the state under it).
     std::shared_future<std::shared_ptr<ILMFormatNode>> m_pending;
     std::thread m_loader;
+
+    // How each list is kept in the settings, and what the last saves did.
+    std::unique_ptr<LMStoredList> m_recentStore;
+    std::unique_ptr<LMStoredList> m_customStore;
+    mutable bool m_recentUnsaved = false;
+    mutable bool m_customUnsaved = false;
+    mutable bool m_lastSaveOk = true;
+    std::function<void(const std::string&)> m_saveFailureHandler;
+    // Set at exit: the load stops where it is and its completion is not called.
+    std::shared_ptr<std::atomic<bool>> m_cancel;
 };
 
 } // namespace Lumeran

@@ -1,5 +1,6 @@
 #include "LMNewPresetView.h"
 
+#include "ILMFormatNode.h"
 #include "LMFormatInternationalizationMgr.h"
 #include "ui_LMNewPresetView.h"
 
@@ -13,6 +14,9 @@ struct LMNewPresetView::Private {
 LMNewPresetView::LMNewPresetView(QWidget* parent)
     : QWidget(parent), d(std::make_unique<Private>()) {
     d->ui.setupUi(this);
+    // A name the stored lists could not read back is never typed in the first
+    // place; the hint below the field says why typing stops.
+    d->ui.textField->setMaxLength(Lumeran::ILMFormatNode::MaxTextLength);
     // The view's own field only: what is typed elsewhere is never taken for the name.
     connect(d->ui.textField, &QLineEdit::textChanged, this, &LMNewPresetView::textDidChange);
     connect(lizationMgr(), &LMFormatInternationalizationMgr::languageDidChange, this,
@@ -49,6 +53,7 @@ LMFormatInternationalizationMgr* LMNewPresetView::lizationMgr() const {
 }
 
 void LMNewPresetView::textDidChange(const QString& text) {
+    d->ui.lblLimit->setVisible(text.size() >= d->ui.textField->maxLength());
     if (text == d->strValue)
         return;
     d->strValue = text;
@@ -57,4 +62,8 @@ void LMNewPresetView::textDidChange(const QString& text) {
 
 void LMNewPresetView::languageDidChanged() {
     d->ui.lblName->setText(lizationMgr()->stringForKey(QStringLiteral("preset name")));
+    d->ui.lblLimit->setText(
+        lizationMgr()
+            ->stringForKey(QStringLiteral("Names are limited to %1 characters."))
+            .arg(d->ui.textField->maxLength()));
 }

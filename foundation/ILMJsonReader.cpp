@@ -1,10 +1,12 @@
 #include "ILMJsonReader.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include "ILMFileProvider.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <vector>
 
 namespace Lumeran {
 
@@ -28,27 +30,71 @@ std::shared_ptr<const ILMJsonValue> Parse(const QByteArray& text,
     return {};
 }
 
+QByteArray View(const std::string& text) {
+    return QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// A place where the text may be cut and closed: right after an element of a list
+// ended, with the closers of the containers still open there.
+struct CutPoint {
+    std::size_t end = 0;
+    std::string closers;
+};
+
+// The places, first to last, where text could be cut into whole list elements.
+// Only whole elements of lists count, so an entry is either kept whole or left out.
+std::vector<CutPoint> CutPoints(const std::string& text, std::size_t limit) {
+    std::vector<CutPoint> points;
+    std::string open; // '{' or '[' per open container
+    bool inString = false;
+    bool escaped = false;
+    const auto closers = [&open] {
+        std::string result;
+        for (auto it = open.rbegin(); it != open.rend(); ++it)
+            result.push_back(*it == '{' ? '}' : ']');
+        return result;
+    };
+    for (std::size_t i = 0; i < text.size() && i < limit; ++i) {
+        const char c = text[i];
+        if (inString) {
+            if (escaped)
+                escaped = false;
+            else if (c == '\\')
+                escaped = true;
+            else if (c == '"')
+                inString = false;
+            continue;
+        }
+        if (c == '"') {
+            inString = true;
+        } else if (c == '{' || c == '[') {
+            open.push_back(c);
+            if (c == '[')
+                points.push_back({i + 1, closers()});
+        } else if (c == '}' || c == ']') {
+            if (open.empty())
+                break;
+            open.pop_back();
+            if (!open.empty() && open.back() == '[')
+                points.push_back({i + 1, closers()});
+        }
+    }
+    return points;
+}
+
 } // namespace
 
 std::shared_ptr<const ILMJsonValue>
 ILMJsonReader::ReadJsonFile(const std::string& path, std::shared_ptr<const ILMError>* error) {
-    const QString fileName = QString::fromStdString(path);
-    const QFileInfo info(fileName);
-    if (!info.exists() || info.isDir()) {
-        ILMError::Report(error, ILMError::FileError, "not a file: " + path);
+    std::string text;
+    std::string why;
+    if (!ILMFileProvider::ReadRegularFile(path, MaxFileSize, &text, &why)) {
+        ILMError::Report(
+            error, why.rfind("file too large", 0) == 0 ? ILMError::LimitError : ILMError::FileError,
+            why);
         return {};
     }
-    if (info.size() > MaxFileSize) {
-        ILMError::Report(error, ILMError::LimitError, "file too large: " + path);
-        return {};
-    }
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        ILMError::Report(error, ILMError::FileError,
-                         "cannot open " + path + ": " + file.errorString().toStdString());
-        return {};
-    }
-    return Parse(file.readAll(), error);
+    return Parse(View(text), error);
 }
 
 std::shared_ptr<const ILMJsonValue>
@@ -57,7 +103,42 @@ ILMJsonReader::ReadJsonString(const std::string& text, std::shared_ptr<const ILM
         ILMError::Report(error, ILMError::LimitError, "text too large");
         return {};
     }
-    return Parse(QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size())), error);
+    return Parse(View(text), error);
+}
+
+std::shared_ptr<const ILMJsonValue> ILMJsonReader::ReadJsonStringSalvaging(const std::string& text,
+                                                                           bool* complete) {
+    if (complete)
+        *complete = false;
+    if (static_cast<std::int64_t>(text.size()) > MaxFileSize)
+        return {};
+    QJsonParseError parseError;
+    const QJsonDocument document = QJsonDocument::fromJson(View(text), &parseError);
+    if (parseError.error == QJsonParseError::NoError) {
+        if (complete)
+            *complete = true;
+        if (document.isObject())
+            return ILMJsonValue::MallocJsonValue(document.object());
+        if (document.isArray())
+            return ILMJsonValue::MallocJsonValue(document.array());
+        return {};
+    }
+    // Tries cut points from the damage backwards; each try parses the prefix, so
+    // the number of tries is bounded and spread over the whole text.
+    const auto points = CutPoints(text, static_cast<std::size_t>(std::max(0, parseError.offset)));
+    constexpr std::size_t kMaxTries = 48;
+    std::size_t step = 1;
+    for (std::size_t tried = 0, i = points.size(); i > 0 && tried < kMaxTries; ++tried) {
+        const CutPoint& point = points[i - 1];
+        const QByteArray candidate = View(text).left(static_cast<qsizetype>(point.end)) +
+                                     QByteArray::fromStdString(point.closers);
+        if (auto value = Parse(candidate, nullptr))
+            return value;
+        i = i > step ? i - step : 0;
+        if (tried >= 8)
+            step *= 2;
+    }
+    return {};
 }
 
 } // namespace Lumeran

@@ -7,8 +7,9 @@
 namespace Lumeran {
 
 const QLoggingCategory& ILMLogConfig::Category() {
-    static const QLoggingCategory category("lumeran");
-    return category;
+    // Never destroyed: a thread abandoned at exit may still log a line.
+    static const QLoggingCategory* const category = new QLoggingCategory("lumeran");
+    return *category;
 }
 
 void ILMLogConfig::Printf(const char* format, ...) {

@@ -72,6 +72,10 @@ void LMFmtNodeViewCtrl::setDelegate(LMFormatDataDelegate* delegate) {
     d->delegate = delegate;
 }
 
+std::shared_ptr<const Lumeran::ILMFormatNode> LMFmtNodeViewCtrl::formatNode() const {
+    return d->rootFmtNode;
+}
+
 void LMFmtNodeViewCtrl::loadFormatNode(std::shared_ptr<const Lumeran::ILMFormatNode> node) {
     d->searchFmtNode.reset();
     d->rootFmtNode = std::move(node);
@@ -211,8 +215,16 @@ void LMFmtNodeViewCtrl::formatDataViewItemRequireRemove(LMFormatDataViewItem* it
         return;
     const auto preset = item->fmtPreset();
     auto source = Lumeran::ILMFmtPresetDataSource::Shared();
+    const auto customRoot = std::as_const(*source).GetCustomList();
+    const bool showsCustom = d->rootFmtNode == customRoot;
     source->RemoveCustomPreset(preset, d->selectedNode);
     source->SaveCustomList();
+    // The save merged in presets another copy of the host stored meanwhile: the
+    // list is shown anew from the tree that now holds them.
+    if (showsCustom && std::as_const(*source).GetCustomList() != customRoot) {
+        loadFormatNode(std::as_const(*source).GetCustomList());
+        return;
+    }
     // The search result is pruned rather than searched again, so the lists stay
     // where they are.
     if (d->searchFmtNode && d->selectedNode) {

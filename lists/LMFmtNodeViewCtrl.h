@@ -46,6 +46,8 @@ public:
 
     // Shows a tree (ending any search), its first node selected.
     void loadFormatNode(std::shared_ptr<const Lumeran::ILMFormatNode> node);
+    // The tree last loaded.
+    std::shared_ptr<const Lumeran::ILMFormatNode> formatNode() const;
     // Narrows the tree to what matches text; an empty text ends the search.
     void searchFormatNode(const QString& text);
     void resetSearchResult();

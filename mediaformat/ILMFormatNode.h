@@ -9,6 +9,8 @@
 
 namespace Lumeran {
 
+struct LMFormatReadOptions;
+
 // A node of a format tree: a category, a format, or a recent or custom group.
 // It has a title (the key by which siblings are found), a description, an
 // artwork face id, format presets and child nodes, all in insertion order.
@@ -66,6 +68,23 @@ public:
     // log line.
     static std::shared_ptr<ILMFormatNode>
     MallocFormatNode(const std::shared_ptr<const ILMJsonValue>& json);
+    // The same, read as options ask (LMFormatReadOptions.h): a stored list is
+    // read keeping what it can and carrying what it cannot.
+    static std::shared_ptr<ILMFormatNode>
+    MallocFormatNode(const std::shared_ptr<const ILMJsonValue>& json,
+                     const LMFormatReadOptions& options);
+
+    // Entries under node (at any depth) that were read as unreadable and are
+    // carried to be written back unchanged.
+    static int UnreadableEntryCount(const std::shared_ptr<const ILMFormatNode>& node);
+    // Takes parent's child of that title out of the tree as it is shown while
+    // keeping it, unchanged, in what ToJson writes: for a group that still
+    // carries entries this version cannot read. False when there is no such child.
+    static bool SetChildAside(const std::shared_ptr<ILMFormatNode>& parent,
+                              const std::string& title);
+    // Whether text fits the limits every title and description is read back
+    // with; setters cut longer texts to MaxTextLength.
+    static bool IsAcceptableText(const std::string& text);
 
     static std::shared_ptr<ILMFormatNode>
     FirstChild(const std::shared_ptr<const ILMFormatNode>& node);
@@ -74,8 +93,12 @@ public:
     static std::shared_ptr<ILMFormatPreset>
     FirstFormatPreset(const std::shared_ptr<ILMFormatNode>& node);
 
+    // Limits shared by the reader and the writer: a tree deeper than MaxDepth,
+    // a text longer than MaxTextLength characters (UTF-16 code units) or a face
+    // id outside 0...MaxFaceID is not read.
     static constexpr int MaxDepth = 32;
     static constexpr int MaxTextLength = 4096;
+    static constexpr int MaxFaceID = 1000000000;
 };
 
 } // namespace Lumeran

@@ -9,6 +9,32 @@
 
 namespace Lumeran {
 
+namespace {
+
+// An image named by a configuration stays inside the configuration's folder: a
+// catalogue from elsewhere must not make the popup open arbitrary files.
+QString ImagePath(const QDir& base, const QString& name) {
+    if (name.isEmpty() || QDir::isAbsolutePath(name))
+        return {};
+    const QString root = QDir::cleanPath(base.absolutePath());
+    const QString path = QDir::cleanPath(base.absoluteFilePath(name));
+    if (!path.startsWith(root + QLatin1Char('/')))
+        return {};
+    const QFileInfo info(path);
+    if (!info.isFile())
+        return {};
+    // A link may point out of the folder; resources have no links.
+    if (info.isSymLink()) {
+        const QString target = info.canonicalFilePath();
+        const QString canonicalRoot = QFileInfo(root).canonicalFilePath();
+        if (target.isEmpty() || !target.startsWith(canonicalRoot + QLatin1Char('/')))
+            return {};
+    }
+    return path;
+}
+
+} // namespace
+
 std::shared_ptr<ILMArtworkImageGroup> LMArtworkImageMgr::ArtworkGroup(int faceID) const {
     const auto found = m_groups.find(faceID);
     return found == m_groups.end() ? nullptr : found->second;
@@ -41,9 +67,8 @@ ILMArtworkImageMgr::MallocArtworkImageMgr(const std::string& icfgPath,
             continue;
         std::vector<std::string> paths;
         for (const QJsonValue& image : object.value(QLatin1StringView("images")).toArray()) {
-            const QString path = base.filePath(image.toString());
-            if (!image.toString().isEmpty() && QFileInfo(path).isFile())
-                paths.push_back(QDir::cleanPath(path).toStdString());
+            if (const QString path = ImagePath(base, image.toString()); !path.isEmpty())
+                paths.push_back(path.toStdString());
         }
         if (!paths.empty())
             manager->Add(std::make_shared<LMArtworkImageGroup>(face.toInt(), std::move(paths)));

@@ -1,5 +1,7 @@
 #include "LMFFmpegArguments.h"
 
+#include <algorithm>
+
 #include "LMFormatPreset.h"
 
 namespace Lumeran {
@@ -110,9 +112,15 @@ std::string LMFFmpegArguments::Join(const std::vector<std::string>& arguments) {
     for (const std::string& argument : arguments) {
         if (!line.empty())
             line += ' ';
+        // Only characters no shell gives a meaning to stand bare; everything else
+        // (white space and line breaks, quotes, expansions, globs, '=' that would
+        // make a first word an assignment, bytes outside ASCII) is single-quoted.
         const bool plain =
-            !argument.empty() &&
-            argument.find_first_of(" \t\"'\\$`|&;<>()*?[]{}!#~") == std::string::npos;
+            !argument.empty() && std::all_of(argument.begin(), argument.end(), [](char c) {
+                return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+                       c == '-' || c == '_' || c == '.' || c == '/' || c == ':' || c == ',' ||
+                       c == '+' || c == '@' || c == '%';
+            });
         if (plain) {
             line += argument;
             continue;

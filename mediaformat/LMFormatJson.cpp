@@ -3,9 +3,13 @@
 #include "ILMLogConfig.h"
 #include "LMFormatNode.h"
 #include "LMFormatPreset.h"
+#include "LMFormatReadOptions.h"
+#include "LMFormatReadReport.h"
 
 #include <QJsonArray>
+#include <QJsonDocument>
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace Lumeran {
@@ -16,6 +20,35 @@ struct FormatError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+struct Cancelled {};
+
+constexpr const char* kNodeKeys[] = {"title", "description", "faceId", "presets", "children"};
+constexpr const char* kStreamKeys[] = {"codec",   "resolution", "framerate",
+                                       "quality", "samplerate", "channels"};
+constexpr const char* kPresetKeys[] = {"title", "description", "faceId", "format",
+                                       "video", "audio",       "other"};
+
+// The fields of object outside known, which a newer version wrote.
+template <std::size_t N>
+QJsonObject ExtraFields(const QJsonObject& object, const char* const (&known)[N]) {
+    QJsonObject extra;
+    for (auto it = object.begin(); it != object.end(); ++it) {
+        const bool isKnown = std::any_of(std::begin(known), std::end(known), [&](const char* key) {
+            return it.key() == QLatin1StringView(key);
+        });
+        if (!isKnown)
+            extra.insert(it.key(), it.value());
+    }
+    return extra;
+}
+
+void InsertExtra(QJsonObject& object, const QJsonObject& extra) {
+    for (auto it = extra.begin(); it != extra.end(); ++it) {
+        if (!object.contains(it.key()))
+            object.insert(it.key(), it.value());
+    }
+}
+
 constexpr const char* kOptionKeys[LMOptionListCount] = {"resolution", "framerate", "quality",
                                                         "samplerate", "channels"};
 
@@ -25,31 +58,114 @@ QLatin1StringView Key(const char* key) {
 
 class NodeReader {
 public:
-    std::shared_ptr<ILMFormatNode> Node(const QJsonValue& value, int depth) {
+    explicit NodeReader(const LMFormatReadOptions& options) : m_options(options) {}
+
+    std::shared_ptr<LMFormatNode> Node(const QJsonValue& value, int depth) {
+        if (m_options.cancel && m_options.cancel->load(std::memory_order_relaxed))
+            throw Cancelled();
         if (depth > ILMFormatNode::MaxDepth)
             throw FormatError("nesting deeper than " + std::to_string(ILMFormatNode::MaxDepth));
         if (!value.isObject())
             throw FormatError("a node is not an object");
         const QJsonObject object = value.toObject();
         auto node = std::make_shared<LMFormatNode>();
-        node->SetTitle(Text(object, "title", true));
-        node->SetDescription(Text(object, "description", false));
-        node->SetFaceID(Face(object));
-        const QJsonArray presets = List(object, "presets");
-        const QJsonArray children = List(object, "children");
+        // Text cut short loses the title, which is written after the lists; the
+        // entries before the cut are still worth reading.
+        const bool titleLost = m_options.keepUnreadable && !object.contains(Key("title"));
+        if (!titleLost)
+            node->SetTitle(Text(object, "title", true));
+        QJsonObject extra = ExtraFields(object, kNodeKeys);
+        node->SetDescription(Attribute(object, "description", extra,
+                                       [&] { return Text(object, "description", false); }));
+        node->SetFaceID(Attribute(object, "faceId", extra, [&] { return Face(object); }));
+        const QJsonArray presets =
+            Attribute(object, "presets", extra, [&] { return List(object, "presets"); });
+        const QJsonArray children =
+            Attribute(object, "children", extra, [&] { return List(object, "children"); });
+        node->SetExtraFields(std::move(extra));
         node->Reserve(static_cast<std::size_t>(presets.size()),
                       static_cast<std::size_t>(children.size()));
-        for (const QJsonValue& preset : presets)
-            node->AddFormatPreset(Preset(preset));
+        for (const QJsonValue& preset : presets) {
+            if (auto read = Entry(preset, [&] { return Preset(preset); }))
+                node->AddFormatPreset(std::move(read));
+            else
+                node->CarryPreset(preset);
+        }
         for (const QJsonValue& child : children) {
-            auto childNode = Node(child, depth + 1);
+            auto childNode = Entry(child, [&] { return Node(child, depth + 1); });
+            // A node left with nothing readable in it is carried whole, so that no
+            // empty group or recent entry shows for what could not be read.
+            if (childNode && childNode->FormatPresetCount() == 0 && childNode->ChildCount() == 0 &&
+                (!childNode->CarriedPresets().empty() || !childNode->CarriedChildren().empty()))
+                childNode.reset();
+            if (!childNode) {
+                node->CarryChild(child);
+                continue;
+            }
             childNode->SetParent(node);
             node->AddChild(std::move(childNode));
         }
+        if (titleLost)
+            RepairTitle(*node, depth);
         return node;
     }
 
 private:
+    // A group of stored presets is named after its format, so the format of its
+    // first preset names it again; a root takes its name from whoever reads it.
+    void RepairTitle(LMFormatNode& node, int depth) {
+        if (node.FormatPresetCount() == 0 && depth > 0)
+            throw FormatError("a node without a title or presets");
+        if (m_options.report) {
+            ++m_options.report->repaired;
+            m_options.report->notUnderstood += "no title\n";
+        }
+        if (node.FormatPresetCount() > 0)
+            node.SetTitle(node.FormatPresetAt(0)->FormatName());
+    }
+
+    // An entry of a list: read, or with keepUnreadable, nothing and counted as carried.
+    template <typename Read>
+    auto Entry(const QJsonValue& value, const Read& read) -> decltype(read()) {
+        if (!m_options.keepUnreadable)
+            return read();
+        try {
+            return read();
+        } catch (const FormatError&) {
+            if (m_options.report) {
+                ++m_options.report->carried;
+                Note(value);
+            }
+            return {};
+        }
+    }
+
+    void Note(const QJsonValue& value) {
+        QJsonArray wrapper{value};
+        m_options.report->notUnderstood +=
+            QJsonDocument(wrapper).toJson(QJsonDocument::Compact).toStdString() + "\n";
+    }
+
+    // An attribute of an entry that was read: with keepUnreadable, one that cannot
+    // be read takes its default rather than losing the entry, and its stored value
+    // goes with the unknown fields to be written back as it was.
+    template <typename Read>
+    auto Attribute(const QJsonObject& object, const char* key, QJsonObject& extra, const Read& read)
+        -> decltype(read()) {
+        if (!m_options.keepUnreadable)
+            return read();
+        try {
+            return read();
+        } catch (const FormatError&) {
+            if (m_options.report) {
+                ++m_options.report->repaired;
+                Note(QJsonObject{{QLatin1StringView(key), object.value(Key(key))}});
+            }
+            extra.insert(Key(key), object.value(Key(key)));
+            return {};
+        }
+    }
+
     std::shared_ptr<ILMFormatPreset> Preset(const QJsonValue& value) {
         if (!value.isObject())
             throw FormatError("a preset is not an object");
@@ -63,8 +179,11 @@ private:
             throw FormatError("unknown format \"" + formatName.toStdString() + "\"");
         auto preset = std::make_shared<LMFormatPreset>(container);
         preset->SetTitle(Text(object, "title", true));
-        preset->SetDescription(Text(object, "description", false));
-        preset->SetFaceID(Face(object));
+        QJsonObject extra = ExtraFields(object, kPresetKeys);
+        preset->SetDescription(Attribute(object, "description", extra,
+                                         [&] { return Text(object, "description", false); }));
+        preset->SetFaceID(Attribute(object, "faceId", extra, [&] { return Face(object); }));
+        preset->SetExtraFields(std::move(extra));
         Stream(*preset, object.value(Key("video")), false);
         Stream(*preset, object.value(Key("audio")), true);
         for (const QJsonValue& other : List(object, "other")) {
@@ -92,6 +211,7 @@ private:
         const int codec = CodecIndex(preset.Container(), object, audio);
         audio ? preset.SetCurrentAudioCodec(codec) : preset.SetCurrentVideoCodec(codec);
         Options(preset, object, audio, codec);
+        preset.SetStreamExtraFields(audio, ExtraFields(object, kStreamKeys));
     }
 
     static int CodecIndex(const LMContainerInfo& container, const QJsonObject& object, bool audio) {
@@ -139,7 +259,8 @@ private:
         if (value.isUndefined())
             return 0;
         const double number = value.toDouble(-1);
-        if (!value.isDouble() || number < 0 || number > 1e9 || number != static_cast<int>(number))
+        if (!value.isDouble() || number < 0 || number > ILMFormatNode::MaxFaceID ||
+            number != static_cast<int>(number))
             throw FormatError("\"faceId\" is not a small whole number");
         return static_cast<int>(number);
     }
@@ -152,6 +273,8 @@ private:
             throw FormatError(std::string("\"") + key + "\" is not a list");
         return value.toArray();
     }
+
+    const LMFormatReadOptions& m_options;
 };
 
 // Whether a codec has an option set away from its default, i.e. whether
@@ -179,13 +302,45 @@ QJsonObject StreamJson(const LMFormatPreset& preset, bool audio, int codec) {
     return object;
 }
 
+// The readable entries of a list with the carried ones back in their places.
+template <typename Write>
+QJsonArray WithCarried(int count, const std::vector<LMFormatNode::Carried>& carried,
+                       const Write& write) {
+    QJsonArray list;
+    std::vector<const LMFormatNode::Carried*> pending;
+    pending.reserve(carried.size());
+    for (const auto& entry : carried)
+        pending.push_back(&entry);
+    std::stable_sort(pending.begin(), pending.end(),
+                     [](const auto* a, const auto* b) { return a->before < b->before; });
+    auto next = pending.begin();
+    for (int i = 0; i <= count; ++i) {
+        for (; next != pending.end() && (*next)->before <= static_cast<std::size_t>(i); ++next)
+            list.append((*next)->json);
+        if (i == count)
+            break;
+        if (const QJsonValue value = write(i); !value.isUndefined())
+            list.append(value);
+    }
+    for (; next != pending.end(); ++next)
+        list.append((*next)->json);
+    return list;
+}
+
 } // namespace
 
 std::shared_ptr<ILMFormatNode> LMFormatJson::ReadNode(const QJsonValue& json) {
+    return ReadNode(json, LMFormatReadOptions());
+}
+
+std::shared_ptr<ILMFormatNode> LMFormatJson::ReadNode(const QJsonValue& json,
+                                                      const LMFormatReadOptions& options) {
     if (!LMFormatRegistry::Instance().IsValid())
         return {};
     try {
-        return NodeReader().Node(json, 0);
+        return NodeReader(options).Node(json, 0);
+    } catch (const Cancelled&) {
+        return {};
     } catch (const std::exception& e) {
         ILMLogConfig::Printf("Format tree rejected: %s", e.what());
         return {};
@@ -205,10 +360,13 @@ QJsonObject LMFormatJson::WritePreset(const LMFormatPreset& preset) {
         const int current =
             audio ? preset.CurrentAudioCodecIndex() : preset.CurrentVideoCodecIndex();
         const int count = audio ? preset.AudioCodecCount() : preset.VideoCodecCount();
-        if (count > 0)
-            object.insert(Key(audio ? "audio" : "video"),
-                          current >= 0 ? QJsonValue(StreamJson(preset, audio, current))
-                                       : QJsonValue());
+        if (count > 0 && current >= 0) {
+            QJsonObject stream = StreamJson(preset, audio, current);
+            InsertExtra(stream, preset.StreamExtraFields(audio));
+            object.insert(Key(audio ? "audio" : "video"), stream);
+        } else if (count > 0) {
+            object.insert(Key(audio ? "audio" : "video"), QJsonValue());
+        }
         for (int codec = 0; codec < count; ++codec) {
             // Most codecs that are not current keep their defaults and write
             // nothing; check that before building their object.
@@ -224,6 +382,7 @@ QJsonObject LMFormatJson::WritePreset(const LMFormatPreset& preset) {
     }
     if (!other.isEmpty())
         object.insert(Key("other"), other);
+    InsertExtra(object, preset.ExtraFields());
     return object;
 }
 
@@ -234,22 +393,22 @@ QJsonObject LMFormatJson::WriteNode(const LMFormatNode& node) {
         object.insert(Key("description"), QString::fromStdString(node.Description()));
     if (node.FaceID() != 0)
         object.insert(Key("faceId"), node.FaceID());
-    QJsonArray presets;
-    for (int i = 0; i < node.FormatPresetCount(); ++i) {
-        const auto preset = std::dynamic_pointer_cast<const LMFormatPreset>(node.FormatPresetAt(i));
-        if (preset)
-            presets.append(WritePreset(*preset));
-    }
+    const QJsonArray presets =
+        WithCarried(node.FormatPresetCount(), node.CarriedPresets(), [&](int i) -> QJsonValue {
+            const auto preset =
+                std::dynamic_pointer_cast<const LMFormatPreset>(node.FormatPresetAt(i));
+            return preset ? QJsonValue(WritePreset(*preset)) : QJsonValue(QJsonValue::Undefined);
+        });
     if (!presets.isEmpty())
         object.insert(Key("presets"), presets);
-    QJsonArray children;
-    for (int i = 0; i < node.ChildCount(); ++i) {
-        const auto child = std::dynamic_pointer_cast<const LMFormatNode>(node.ChildAt(i));
-        if (child)
-            children.append(WriteNode(*child));
-    }
+    const QJsonArray children =
+        WithCarried(node.ChildCount(), node.CarriedChildren(), [&](int i) -> QJsonValue {
+            const auto child = std::dynamic_pointer_cast<const LMFormatNode>(node.ChildAt(i));
+            return child ? QJsonValue(WriteNode(*child)) : QJsonValue(QJsonValue::Undefined);
+        });
     if (!children.isEmpty())
         object.insert(Key("children"), children);
+    InsertExtra(object, node.ExtraFields());
     return object;
 }
 

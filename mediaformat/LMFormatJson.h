@@ -10,6 +10,7 @@ namespace Lumeran {
 class ILMFormatNode;
 class LMFormatNode;
 class LMFormatPreset;
+struct LMFormatReadOptions;
 
 // The JSON form of nodes and presets, shared by catalogue files and stored
 // lists. A node is {"title", "description", "faceId", "presets", "children"};
@@ -22,6 +23,9 @@ class LMFormatJson {
 public:
     // An empty pointer, and one log line, for anything that is not a valid tree.
     static std::shared_ptr<ILMFormatNode> ReadNode(const QJsonValue& json);
+    // The same, read as options ask; see LMFormatReadOptions.
+    static std::shared_ptr<ILMFormatNode> ReadNode(const QJsonValue& json,
+                                                   const LMFormatReadOptions& options);
     static QJsonObject WriteNode(const LMFormatNode& node);
     static QJsonObject WritePreset(const LMFormatPreset& preset);
 };

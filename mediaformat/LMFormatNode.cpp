@@ -1,6 +1,7 @@
 #include "LMFormatNode.h"
 
 #include "LMFormatJson.h"
+#include "LMFormatReadOptions.h"
 
 #include <algorithm>
 
@@ -39,6 +40,34 @@ ILMFormatNode::MallocFormatNode(const std::shared_ptr<const ILMJsonValue>& json)
 }
 
 std::shared_ptr<ILMFormatNode>
+ILMFormatNode::MallocFormatNode(const std::shared_ptr<const ILMJsonValue>& json,
+                                const LMFormatReadOptions& options) {
+    if (!json)
+        return {};
+    return LMFormatJson::ReadNode(json->Value(), options);
+}
+
+int ILMFormatNode::UnreadableEntryCount(const std::shared_ptr<const ILMFormatNode>& node) {
+    const auto* mine = dynamic_cast<const LMFormatNode*>(node.get());
+    if (!mine)
+        return 0;
+    int count = static_cast<int>(mine->CarriedPresets().size() + mine->CarriedChildren().size());
+    for (int i = 0; i < mine->ChildCount(); ++i)
+        count += UnreadableEntryCount(mine->ChildAt(i));
+    return count;
+}
+
+bool ILMFormatNode::SetChildAside(const std::shared_ptr<ILMFormatNode>& parent,
+                                  const std::string& title) {
+    auto* mine = dynamic_cast<LMFormatNode*>(parent.get());
+    return mine && mine->CarryChildAt(mine->IndexOfChild(title));
+}
+
+bool ILMFormatNode::IsAcceptableText(const std::string& text) {
+    return LMFormatLimits::Text(text) == text;
+}
+
+std::shared_ptr<ILMFormatNode>
 ILMFormatNode::FirstChild(const std::shared_ptr<const ILMFormatNode>& node) {
     if (!node || node->ChildCount() == 0)
         return {};
@@ -65,13 +94,16 @@ std::shared_ptr<ILMFormatNode> LMFormatNode::Clone(int options) const {
         copy->m_title = m_title;
         copy->m_description = m_description;
         copy->m_faceID = m_faceID;
+        copy->m_extra = m_extra;
     }
     if (options & ClonePresets) {
+        copy->m_carriedPresets = m_carriedPresets;
         copy->m_presets.reserve(m_presets.size());
         for (const auto& preset : m_presets)
             copy->m_presets.push_back(preset->Clone());
     }
     if (options & CloneChildren) {
+        copy->m_carriedChildren = m_carriedChildren;
         copy->m_children.reserve(m_children.size());
         for (const auto& child : m_children) {
             auto childCopy = child->Clone(options);
@@ -180,6 +212,19 @@ bool LMFormatNode::IsEqualTo(std::shared_ptr<const ILMFormatNode> other) const {
         if (!m_children[static_cast<std::size_t>(i)]->IsEqualTo(other->ChildAt(i)))
             return false;
     }
+    return true;
+}
+
+bool LMFormatNode::CarryChildAt(int index) {
+    if (!InRange(index, m_children.size()))
+        return false;
+    const auto child =
+        std::dynamic_pointer_cast<const LMFormatNode>(m_children[static_cast<std::size_t>(index)]);
+    if (!child)
+        return false;
+    // Entries after it keep their places: it goes where it stood.
+    m_carriedChildren.push_back({static_cast<std::size_t>(index), LMFormatJson::WriteNode(*child)});
+    m_children.erase(m_children.begin() + index);
     return true;
 }
 

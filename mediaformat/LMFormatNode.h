@@ -1,6 +1,10 @@
 #pragma once
 
 #include "ILMFormatNode.h"
+#include "LMFormatLimits.h"
+
+#include <QJsonObject>
+#include <QJsonValue>
 
 #include <memory>
 #include <string>
@@ -12,11 +16,13 @@ class LMFormatNode final : public ILMFormatNode {
 public:
     void SetParent(std::shared_ptr<ILMFormatNode> parent) override { m_parent = parent; }
     int FaceID() const override { return m_faceID; }
-    void SetFaceID(int faceID) override { m_faceID = faceID; }
+    void SetFaceID(int faceID) override { m_faceID = LMFormatLimits::FaceID(faceID); }
     std::string Title() const override { return m_title; }
     std::string Description() const override { return m_description; }
-    void SetTitle(const std::string& title) override { m_title = title; }
-    void SetDescription(const std::string& description) override { m_description = description; }
+    void SetTitle(const std::string& title) override { m_title = LMFormatLimits::Text(title); }
+    void SetDescription(const std::string& description) override {
+        m_description = LMFormatLimits::Text(description);
+    }
     std::shared_ptr<ILMFormatNode> Clone(int options) const override;
     std::shared_ptr<ILMJsonValue> ToJson() const override;
     int FormatPresetCount() const override { return static_cast<int>(m_presets.size()); }
@@ -40,6 +46,26 @@ public:
     // Room for a known number of entries, used when reading large catalogues.
     void Reserve(std::size_t presets, std::size_t children);
 
+    // An entry that could not be read, kept as it was stored: written back after
+    // the first `before` readable entries of its list.
+    struct Carried {
+        std::size_t before = 0;
+        QJsonValue json;
+    };
+    void CarryPreset(QJsonValue json) {
+        m_carriedPresets.push_back({m_presets.size(), std::move(json)});
+    }
+    void CarryChild(QJsonValue json) {
+        m_carriedChildren.push_back({m_children.size(), std::move(json)});
+    }
+    const std::vector<Carried>& CarriedPresets() const { return m_carriedPresets; }
+    const std::vector<Carried>& CarriedChildren() const { return m_carriedChildren; }
+    // Sets the readable child at index aside as a carried one; false when out of range.
+    bool CarryChildAt(int index);
+    // Fields of the node's JSON this version does not know, written back as read.
+    const QJsonObject& ExtraFields() const { return m_extra; }
+    void SetExtraFields(QJsonObject extra) { m_extra = std::move(extra); }
+
 private:
     std::weak_ptr<ILMFormatNode> m_parent;
     std::string m_title;
@@ -47,6 +73,9 @@ private:
     int m_faceID = 0;
     std::vector<std::shared_ptr<ILMFormatPreset>> m_presets;
     std::vector<std::shared_ptr<ILMFormatNode>> m_children;
+    std::vector<Carried> m_carriedPresets;
+    std::vector<Carried> m_carriedChildren;
+    QJsonObject m_extra;
 };
 
 } // namespace Lumeran

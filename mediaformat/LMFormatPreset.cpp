@@ -38,12 +38,14 @@ void LMFormatPreset::CopyFrom(std::shared_ptr<const ILMFormatPreset> other) {
         m_currentVideo = source->m_currentVideo;
         m_currentAudio = source->m_currentAudio;
         m_choices = source->m_choices;
+        m_extra = source->m_extra;
+        m_streamExtra = source->m_streamExtra;
         return;
     }
     // Another implementation of the interface: take over what it exposes.
-    m_title = other->Title();
-    m_description = other->Description();
-    m_faceID = other->FaceID();
+    SetTitle(other->Title());
+    SetDescription(other->Description());
+    SetFaceID(other->FaceID());
     SetCurrentVideoCodec(other->CurrentVideoCodecIndex());
     SetCurrentAudioCodec(other->CurrentAudioCodecIndex());
 }

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "ILMFormatPreset.h"
+#include "LMFormatLimits.h"
 #include "LMFormatRegistry.h"
+
+#include <QJsonObject>
 
 #include <array>
 #include <cstdint>
@@ -22,9 +25,9 @@ public:
     explicit LMFormatPreset(const LMContainerInfo* container);
 
     int FaceID() const override { return m_faceID; }
-    void SetFaceID(int faceID) override { m_faceID = faceID; }
+    void SetFaceID(int faceID) override { m_faceID = LMFormatLimits::FaceID(faceID); }
     std::string Title() const override { return m_title; }
-    void SetTitle(const std::string& title) override { m_title = title; }
+    void SetTitle(const std::string& title) override { m_title = LMFormatLimits::Text(title); }
     std::string Description() const override { return m_description; }
     std::shared_ptr<ILMFormatPreset> Clone() const override;
     void CopyFrom(std::shared_ptr<const ILMFormatPreset> other) override;
@@ -37,7 +40,9 @@ public:
     void SetCurrentAudioCodec(int index) override;
     void SetCurrentVideoCodec(int index) override;
     bool IsEqualTo(std::shared_ptr<const ILMFormatPreset> other) const override;
-    void SetDescription(const std::string& description) override { m_description = description; }
+    void SetDescription(const std::string& description) override {
+        m_description = LMFormatLimits::Text(description);
+    }
     std::string FormatName() const override { return m_container->name; }
     std::string FormatId() const override { return m_container->id; }
 
@@ -47,6 +52,14 @@ public:
     int Option(bool audio, int codec, LMOptionList list) const;
     // Stores a choice; an index outside the list is ignored.
     void SetOption(bool audio, int codec, LMOptionList list, int index);
+    // Fields of the preset's JSON this version does not know, written back as read.
+    const QJsonObject& ExtraFields() const { return m_extra; }
+    void SetExtraFields(QJsonObject extra) { m_extra = std::move(extra); }
+    // The same for the object of the current video or audio stream.
+    const QJsonObject& StreamExtraFields(bool audio) const { return m_streamExtra[audio ? 1 : 0]; }
+    void SetStreamExtraFields(bool audio, QJsonObject extra) {
+        m_streamExtra[audio ? 1 : 0] = std::move(extra);
+    }
 
 private:
     struct Choice {
@@ -64,6 +77,8 @@ private:
     std::int16_t m_currentVideo = -1;
     std::int16_t m_currentAudio = -1;
     std::vector<Choice> m_choices;
+    QJsonObject m_extra;
+    std::array<QJsonObject, 2> m_streamExtra;
 };
 
 } // namespace Lumeran

@@ -304,7 +304,9 @@ std::unique_ptr<LMFormatRegistry> LMFormatRegistry::FromJson(const QByteArray& j
 }
 
 const LMFormatRegistry& LMFormatRegistry::Instance() {
-    static const std::unique_ptr<LMFormatRegistry> instance = [] {
+    // Never destroyed: a loader thread abandoned at exit may still be reading
+    // with it while static objects are torn down.
+    static const LMFormatRegistry* const instance = [] {
         InitMediaFormatResources();
         QFile file(QStringLiteral(":/LMMediaFormat/registry.json"));
         std::string error = "the embedded table is missing";
@@ -315,7 +317,7 @@ const LMFormatRegistry& LMFormatRegistry::Instance() {
             ILMLogConfig::Printf("Format registry unusable: %s", error.c_str());
             registry = std::make_unique<LMFormatRegistry>();
         }
-        return registry;
+        return registry.release();
     }();
     return *instance;
 }

@@ -123,6 +123,7 @@ void LMFormatSelectionWndCtrl::retranslate() {
 
 void LMFormatSelectionWndCtrl::popupSelection(const QRectF& rect, CompleteHandler handler) {
     m_completeHandler = std::move(handler);
+    reloadCustomIfReplaced();
     m_finishedSelecting = false;
     setGeometry(frameFromRect(rect));
     popupAgain();
@@ -290,6 +291,16 @@ void LMFormatSelectionWndCtrl::viewControllerEditingFormat(QObject*,
     }
     popupAgain();
     m_finishedSelecting = false;
+}
+
+// A save that merged in what another copy of the host stored, or a restored
+// backup, replaces the custom tree the tab was showing.
+void LMFormatSelectionWndCtrl::reloadCustomIfReplaced() {
+    if (m_ui->tabHeaderView->countOfTab() == 0)
+        return; // the tabs are not built yet; they will be from the current tree
+    const auto custom = std::as_const(*ILMFmtPresetDataSource::Shared()).GetCustomList();
+    if (customFmtViewCtrl()->formatNode() != custom)
+        customFmtViewCtrl()->loadFormatNode(custom);
 }
 
 void LMFormatSelectionWndCtrl::formatEditingWndCtrlDidCreateFormatPreset(LMFormatEditingWndCtrl*) {

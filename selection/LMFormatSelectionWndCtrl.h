@@ -113,6 +113,7 @@ private:
     void windowDidLoad();
     // Shows the window where it is and takes the focus.
     void popupAgain();
+    void reloadCustomIfReplaced();
     void setupDefaultFormats();
     void cleanDefFormats();
     void completeSelection(std::shared_ptr<const Lumeran::ILMFormatPreset> preset,

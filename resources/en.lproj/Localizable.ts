@@ -319,5 +319,9 @@
         <source>Format</source>
         <translation>Format</translation>
     </message>
+    <message>
+        <source>Names are limited to %1 characters.</source>
+        <translation>Names are limited to %1 characters.</translation>
+    </message>
 </context>
 </TS>

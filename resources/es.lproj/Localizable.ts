@@ -319,5 +319,9 @@
         <source>Format</source>
         <translation>Formato</translation>
     </message>
+    <message>
+        <source>Names are limited to %1 characters.</source>
+        <translation>Los nombres están limitados a %1 caracteres.</translation>
+    </message>
 </context>
 </TS>

@@ -319,5 +319,9 @@
         <source>Format</source>
         <translation>Format</translation>
     </message>
+    <message>
+        <source>Names are limited to %1 characters.</source>
+        <translation>Les noms sont limités à %1 caractères.</translation>
+    </message>
 </context>
 </TS>

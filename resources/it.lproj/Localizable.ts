@@ -319,5 +319,9 @@
         <source>Format</source>
         <translation>Formato</translation>
     </message>
+    <message>
+        <source>Names are limited to %1 characters.</source>
+        <translation>I nomi sono limitati a %1 caratteri.</translation>
+    </message>
 </context>
 </TS>

@@ -319,5 +319,9 @@
         <source>Format</source>
         <translation>フォーマット</translation>
     </message>
+    <message>
+        <source>Names are limited to %1 characters.</source>
+        <translation>名前は%1文字までです。</translation>
+    </message>
 </context>
 </TS>

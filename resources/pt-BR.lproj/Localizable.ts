@@ -319,5 +319,9 @@
         <source>Format</source>
         <translation>Formato</translation>
     </message>
+    <message>
+        <source>Names are limited to %1 characters.</source>
+        <translation>Os nomes são limitados a %1 caracteres.</translation>
+    </message>
 </context>
 </TS>

@@ -319,5 +319,9 @@
         <source>Format</source>
         <translation>格式</translation>
     </message>
+    <message>
+        <source>Names are limited to %1 characters.</source>
+        <translation>名称最多 %1 个字符。</translation>
+    </message>
 </context>
 </TS>

@@ -1,5 +1,7 @@
 #include "LMCoreTestSupport.h"
 
+#include "LMCatalogueLoadHook_p.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -7,6 +9,9 @@
 
 #include <cerrno>
 #include <chrono>
+#include <condition_variable>
+#include <map>
+#include <mutex>
 #include <thread>
 
 #include <fcntl.h>
@@ -85,14 +90,58 @@ bool ClaimFirstUseOfSharedDataSource() {
     return first;
 }
 
-LoadGate::LoadGate(const QString& name) {
+struct LoadGate::State {
+    bool arrived = false;
+    bool released = false;
+};
+
+namespace {
+
+struct Gates {
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::map<std::string, std::shared_ptr<LoadGate::State>> byPath;
+};
+
+Gates& AllGates() {
+    static auto* const gates = new Gates();
+    return *gates;
+}
+
+// Runs on the loader thread: a load of a gated catalogue waits for its release.
+void WaitAtGate(const std::string& path) {
+    Gates& gates = AllGates();
+    std::unique_lock lock(gates.mutex);
+    const auto found = gates.byPath.find(path);
+    if (found == gates.byPath.end())
+        return;
+    const std::shared_ptr<LoadGate::State> state = found->second;
+    state->arrived = true;
+    gates.changed.notify_all();
+    gates.changed.wait(lock, [&] { return state->released; });
+}
+
+} // namespace
+
+LoadGate::LoadGate(const QString& name) : m_state(std::make_shared<State>()) {
     m_path = m_dir.filePath(name + QStringLiteral(".json"));
-    m_valid = m_dir.isValid() && ::mkfifo(QFile::encodeName(m_path).constData(), 0600) == 0;
+    m_valid = m_dir.isValid();
+    static const bool hooked = [] {
+        LMCatalogueLoadHook::Set(&WaitAtGate);
+        return true;
+    }();
+    (void)hooked;
+    Gates& gates = AllGates();
+    const std::lock_guard lock(gates.mutex);
+    gates.byPath[m_path.toStdString()] = m_state;
 }
 
 // A load still held must not outlive the test: end it with an empty file.
 LoadGate::~LoadGate() {
     Release(QByteArray());
+    Gates& gates = AllGates();
+    const std::lock_guard lock(gates.mutex);
+    gates.byPath.erase(m_path.toStdString());
 }
 
 std::string LoadGate::Path() const {
@@ -104,36 +153,18 @@ QString LoadGate::DirPath() const {
 }
 
 bool LoadGate::Release(const QByteArray& text) {
-    if (!m_valid || m_released)
+    Gates& gates = AllGates();
+    std::unique_lock lock(gates.mutex);
+    if (!m_valid || m_state->released)
         return false;
-    m_released = true;
-    // Opening a pipe for writing waits for its reader; poll without blocking so a
-    // load that never started cannot hang the test.
-    int fd = -1;
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
-    while (fd < 0 && std::chrono::steady_clock::now() < deadline) {
-        fd = ::open(QFile::encodeName(m_path).constData(), O_WRONLY | O_NONBLOCK);
-        if (fd < 0 && errno == ENXIO)
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        else if (fd < 0)
-            return false;
-    }
-    if (fd < 0)
-        return false;
-    ::fcntl(fd, F_SETFL, ::fcntl(fd, F_GETFL) & ~O_NONBLOCK);
-    const char* data = text.constData();
-    qsizetype left = text.size();
-    while (left > 0) {
-        const ssize_t written = ::write(fd, data, static_cast<std::size_t>(left));
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            break;
-        data += written;
-        left -= written;
-    }
-    ::close(fd);
-    return left == 0;
+    const bool arrived =
+        gates.changed.wait_for(lock, std::chrono::seconds(30), [&] { return m_state->arrived; });
+    QFile file(m_path);
+    const bool written = file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+    file.close();
+    m_state->released = true;
+    gates.changed.notify_all();
+    return arrived && written;
 }
 
 std::mutex LogCapture::s_mutex;

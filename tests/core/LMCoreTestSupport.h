@@ -35,9 +35,9 @@ qint64 WriteLargeCatalogue(const QString& path, int formats, int presetsPerForma
 // (ctest runs every test in a process of its own, so there they always run).
 bool ClaimFirstUseOfSharedDataSource();
 
-// Holds a load at its start: a named pipe that the loader blocks on until the
-// test writes the catalogue into it. Beside the pipe, "<name>.icfg" may be
-// written to give the load an artwork configuration.
+// Holds a load at its start: the loader waits at the catalogue load hook until
+// the test writes the catalogue file and releases it. Beside the catalogue,
+// "<name>.icfg" may be written to give the load an artwork configuration.
 class LoadGate {
 public:
     explicit LoadGate(const QString& name = QStringLiteral("gate"));
@@ -46,16 +46,19 @@ public:
     LoadGate& operator=(const LoadGate&) = delete;
 
     bool IsValid() const { return m_valid; }
-    std::string Path() const; // the pipe, "<dir>/<name>.json"
+    std::string Path() const; // the catalogue, "<dir>/<name>.json"
     QString DirPath() const;
-    // Lets the load read text and reach end of file; only the first call counts.
+    // Writes text as the catalogue and lets the load read it; only the first
+    // call counts. False when no load reached the gate within 30 seconds.
     bool Release(const QByteArray& text);
+
+    struct State;
 
 private:
     QTemporaryDir m_dir;
     QString m_path;
     bool m_valid = false;
-    bool m_released = false;
+    std::shared_ptr<State> m_state;
 };
 
 // Collects the lines written through Qt's message handler while it lives. Lines

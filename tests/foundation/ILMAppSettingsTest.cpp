@@ -2,7 +2,10 @@
 #include "LMTestEnvironment.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
+
+#include <sys/stat.h>
 
 using namespace Lumeran;
 
@@ -44,4 +47,150 @@ TEST_F(ILMAppSettingsTest, UnwritableLocationReportsFailedSynchronize) {
     store->SetStringValue("x", "key");
     store->Synchronize();
     EXPECT_FALSE(store->LastSynchronizeSucceeded());
+}
+
+namespace {
+
+QByteArray ReadAll(const std::string& path) {
+    QFile file(QString::fromStdString(path));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void WriteAll(const std::string& path, const QByteArray& bytes) {
+    QFile file(QString::fromStdString(path));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+} // namespace
+
+TEST_F(ILMAppSettingsTest, AStrayQuoteDoesNotHideTheLinesAfterIt) {
+    WriteAll(settings->FilePath(),
+             "[General]\nnote=\"an open quote\nrecent_format_preset=\"QUJD\"\nlater=1\n");
+    EXPECT_EQ(ILMAppSettings::Shared()->StringValue("recent_format_preset"), "QUJD");
+    EXPECT_EQ(ILMAppSettings::Shared()->StringValue("later"), "1");
+}
+
+TEST_F(ILMAppSettingsTest, AByteOrderMarkAndWindowsLineEndsReadAndWriteCleanly) {
+    WriteAll(settings->FilePath(), "\xEF\xBB\xBF[General]\r\nkey=one\r\n");
+    auto store = ILMAppSettings::Shared();
+    EXPECT_EQ(store->StringValue("key"), "one");
+    store->SetStringValue("two", "key");
+    store->Synchronize();
+    EXPECT_TRUE(store->LastSynchronizeSucceeded());
+    EXPECT_EQ(ReadAll(settings->FilePath()), QByteArray("\xEF\xBB\xBF[General]\r\nkey=two\r\n"));
+}
+
+TEST_F(ILMAppSettingsTest, AWriteAfterAFailedOneReportsItsOwnSuccess) {
+    const std::string good = settings->FilePath();
+    auto store = ILMAppSettings::Shared();
+    store->SetStringValue("w", "key");
+    store->Synchronize();
+    ILMAppSettings::UseSettingsFile(good + "/under-a-file/settings.ini");
+    store->SetStringValue("x", "key");
+    store->Synchronize();
+    EXPECT_FALSE(store->LastSynchronizeSucceeded());
+    ILMAppSettings::UseSettingsFile(good);
+    store->SetStringValue("y", "key");
+    store->Synchronize();
+    EXPECT_TRUE(store->LastSynchronizeSucceeded());
+}
+
+TEST_F(ILMAppSettingsTest, AFailedWriteKeepsItsValuesForTheNextOne) {
+    const std::string path = settings->DirPath() + "/later/settings.ini";
+    WriteAll(settings->DirPath() + "/later", "a file where the folder should be");
+    ILMAppSettings::UseSettingsFile(path);
+    auto store = ILMAppSettings::Shared();
+    store->SetStringValue("kept", "key");
+    store->Synchronize();
+    ASSERT_FALSE(store->LastSynchronizeSucceeded());
+    EXPECT_EQ(store->StringValue("key"), "kept");
+    ASSERT_TRUE(QFile::remove(QString::fromStdString(settings->DirPath() + "/later")));
+    store->Synchronize();
+    EXPECT_TRUE(store->LastSynchronizeSucceeded());
+    EXPECT_TRUE(ReadAll(path).contains("key=kept"));
+}
+
+TEST_F(ILMAppSettingsTest, LinesThisStoreDoesNotWriteAreKeptAsTheyStand) {
+    const QByteArray host = "; the host's comment\n[General]\nwindow=\"1, 2\"\ngarbage line\n\n"
+                            "[Network]\nproxy=none\n";
+    WriteAll(settings->FilePath(), host);
+    auto store = ILMAppSettings::Shared();
+    store->SetStringValue("QUJD==", "recent_format_preset");
+    store->Synchronize();
+    ASSERT_TRUE(store->LastSynchronizeSucceeded());
+    const QByteArray written = ReadAll(settings->FilePath());
+    EXPECT_EQ(written, "; the host's comment\n[General]\nwindow=\"1, 2\"\ngarbage line\n"
+                       "recent_format_preset=QUJD==\n\n[Network]\nproxy=none\n");
+}
+
+TEST_F(ILMAppSettingsTest, QSettingsAndThisStoreReadWhatTheOtherWrote) {
+    const std::vector<std::string> values = {"plain",
+                                             "a, b; c=d",
+                                             "\"quoted\" \\ back",
+                                             " spaced ",
+                                             "@at",
+                                             "Qualité 日本語",
+                                             "tab\there",
+                                             "line\nbreak",
+                                             std::string("c\x01"
+                                                         "F")};
+    auto store = ILMAppSettings::Shared();
+    for (std::size_t i = 0; i < values.size(); ++i)
+        store->SetStringValue(values[i], "ours" + std::to_string(i));
+    store->Synchronize();
+    {
+        QSettings qt(QString::fromStdString(settings->FilePath()), QSettings::IniFormat);
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            const QString key = QStringLiteral("ours%1").arg(i);
+            EXPECT_EQ(qt.value(key).toString().toStdString(), values[i]) << i;
+            qt.setValue(QStringLiteral("theirs%1").arg(i), QString::fromStdString(values[i]));
+        }
+        qt.setValue(QStringLiteral("Section/nested key"), QStringLiteral("deep"));
+    }
+    ILMAppSettings::UseSettingsFile(settings->FilePath()); // forget what was read
+    store = ILMAppSettings::Shared();
+    for (std::size_t i = 0; i < values.size(); ++i)
+        EXPECT_EQ(store->StringValue("theirs" + std::to_string(i)), values[i]) << i;
+    EXPECT_EQ(store->StringValue("Section/nested key"), "deep");
+}
+
+TEST_F(ILMAppSettingsTest, DuplicateKeysReadTheLastLineAndShowTheEarlierOnes) {
+    WriteAll(settings->FilePath(), "[General]\nkey=first\nkey=second\n");
+    auto store = ILMAppSettings::Shared();
+    EXPECT_EQ(store->StringValue("key"), "second");
+    EXPECT_EQ(store->ShadowedValues("key"), std::vector<std::string>{"first"});
+}
+
+TEST_F(ILMAppSettingsTest, TransactSeesWhatAnotherWriterStoredMeanwhile) {
+    auto store = ILMAppSettings::Shared();
+    store->SetStringValue("1", "count");
+    store->Synchronize();
+    {
+        QSettings other(QString::fromStdString(settings->FilePath()), QSettings::IniFormat);
+        other.setValue(QStringLiteral("count"), QStringLiteral("5"));
+    }
+    const bool written = store->Transact({"count"}, [](const ILMAppSettings::Values& current) {
+        const auto found = current.find("count");
+        const int count = found == current.end() ? 0 : std::stoi(found->second);
+        return std::optional(ILMAppSettings::Values{{"count", std::to_string(count + 1)}});
+    });
+    EXPECT_TRUE(written);
+    EXPECT_EQ(store->StringValue("count"), "6");
+    EXPECT_FALSE(store->Transact({"count"}, [](const ILMAppSettings::Values&) {
+        return std::optional<ILMAppSettings::Values>();
+    }));
+    EXPECT_EQ(store->StringValue("count"), "6");
+}
+
+TEST_F(ILMAppSettingsTest, ASettingsFileThatIsANamedPipeIsNeitherReadNorReplaced) {
+    const std::string path = settings->DirPath() + "/pipe.ini";
+    ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+    ILMAppSettings::UseSettingsFile(path);
+    auto store = ILMAppSettings::Shared();
+    EXPECT_EQ(store->StringValue("key"), "");
+    store->SetStringValue("x", "key");
+    store->Synchronize();
+    EXPECT_FALSE(store->LastSynchronizeSucceeded());
+    EXPECT_FALSE(QFileInfo(QString::fromStdString(path)).isFile());
 }

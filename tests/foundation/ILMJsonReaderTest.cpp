@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 using namespace Lumeran;
 
 namespace {
@@ -78,4 +80,38 @@ TEST(ILMJsonReaderTest, LargeStringIsReadWithoutCrashing) {
     ASSERT_TRUE(json);
     EXPECT_EQ(json->Value().toObject().value(QStringLiteral("title")).toString().size(),
               50 * 1024 * 1024);
+}
+
+TEST(ILMJsonReaderTest, SalvagingKeepsTheWholeListElementsBeforeTheDamage) {
+    const std::string text =
+        R"({"title":"R","children":[{"title":"a"},{"title":"b"},{"title":"c"}]})";
+    bool complete = false;
+    const auto whole = ILMJsonReader::ReadJsonStringSalvaging(text, &complete);
+    ASSERT_TRUE(whole);
+    EXPECT_TRUE(complete);
+
+    const auto cut = ILMJsonReader::ReadJsonStringSalvaging(text.substr(0, 58), &complete);
+    ASSERT_TRUE(cut);
+    EXPECT_FALSE(complete);
+    const QJsonArray children = cut->Value().toObject().value(QStringLiteral("children")).toArray();
+    ASSERT_EQ(children.size(), 2);
+    EXPECT_EQ(children[1].toObject().value(QStringLiteral("title")).toString(),
+              QStringLiteral("b"));
+
+    std::string damaged = text;
+    damaged[52] = '\x01';
+    const auto salvaged = ILMJsonReader::ReadJsonStringSalvaging(damaged, &complete);
+    ASSERT_TRUE(salvaged);
+    EXPECT_FALSE(complete);
+    EXPECT_EQ(salvaged->Value().toObject().value(QStringLiteral("children")).toArray().size(), 2);
+    EXPECT_FALSE(ILMJsonReader::ReadJsonStringSalvaging("nothing", &complete));
+}
+
+TEST(ILMJsonReaderTest, ANamedPipeIsRefusedWithoutWaitingForAWriter) {
+    QTemporaryDir dir;
+    const std::string path = dir.filePath(QStringLiteral("pipe.json")).toStdString();
+    ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+    std::shared_ptr<const ILMError> error;
+    EXPECT_FALSE(ILMJsonReader::ReadJsonFile(path, &error));
+    EXPECT_TRUE(error);
 }

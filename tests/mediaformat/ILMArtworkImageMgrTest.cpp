@@ -2,11 +2,14 @@
 #include "ILMFileProvider.h"
 #include "LMDefaultCatalogue.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <sys/stat.h>
 
 using namespace Lumeran;
 
@@ -67,4 +70,34 @@ TEST(ILMArtworkImageMgrTest, EntriesWithMissingImagesAreLeftOut) {
     EXPECT_EQ(manager->ArtworkGroup(5)->ImagePaths().front(),
               dir.filePath(QStringLiteral("here.svg")).toStdString());
     EXPECT_FALSE(manager->ArtworkGroup(6));
+}
+
+TEST(ILMArtworkImageMgrTest, ImagesOutsideTheConfigurationFolderAreLeftOut) {
+    QTemporaryDir dir;
+    ASSERT_TRUE(QDir(dir.path()).mkpath(QStringLiteral("conf/art")));
+    Write(dir, QStringLiteral("outside.svg"), "<svg xmlns='http://www.w3.org/2000/svg'/>");
+    Write(dir, QStringLiteral("conf/art/in.svg"), "<svg xmlns='http://www.w3.org/2000/svg'/>");
+    ASSERT_TRUE(QFile::link(dir.filePath(QStringLiteral("outside.svg")),
+                            dir.filePath(QStringLiteral("conf/art/link.svg"))));
+    const std::string outside = dir.filePath(QStringLiteral("outside.svg")).toStdString();
+    const auto path = Write(dir, QStringLiteral("conf/a.icfg"),
+                            QByteArray(R"({"artwork":[
+        {"faceId":1,"images":["../outside.svg"]},
+        {"faceId":2,"images":["art/../../outside.svg"]},
+        {"faceId":3,"images":[")") + QByteArray::fromStdString(outside) + R"("]},
+        {"faceId":4,"images":["art/link.svg"]},
+        {"faceId":5,"images":["art/in.svg"]}]})");
+    const auto manager = ILMArtworkImageMgr::MallocArtworkImageMgr(path, nullptr);
+    ASSERT_TRUE(manager);
+    EXPECT_EQ(manager->GroupCount(), 1);
+    EXPECT_TRUE(manager->ArtworkGroup(5));
+}
+
+TEST(ILMArtworkImageMgrTest, AConfigurationThatIsANamedPipeIsRefusedWithoutWaiting) {
+    QTemporaryDir dir;
+    const std::string path = dir.filePath(QStringLiteral("pipe.icfg")).toStdString();
+    ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+    std::shared_ptr<const ILMError> error;
+    EXPECT_FALSE(ILMArtworkImageMgr::MallocArtworkImageMgr(path, &error));
+    EXPECT_TRUE(error);
 }

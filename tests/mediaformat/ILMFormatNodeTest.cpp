@@ -1,13 +1,18 @@
 #include "ILMFormatNode.h"
 #include "ILMJsonReader.h"
 #include "ILMJsonWriter.h"
+#include "LMFormatReadOptions.h"
+#include "LMFormatReadReport.h"
 #include "LMFormatTreeFactory.h"
 
 #include <QDir>
 #include <QFile>
+#include <QString>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <atomic>
 
 using namespace Lumeran;
 using namespace Lumeran::TestSupport;
@@ -236,4 +241,90 @@ TEST(ILMFormatNodeTest, BrokenFilesGiveEmptyPointer) {
     EXPECT_FALSE(read(write(QStringLiteral("utf8.json"), "{\"title\":\"\xc3\x28\"}")));
     EXPECT_FALSE(read(dir.path().toStdString()));
     EXPECT_FALSE(read(dir.filePath(QStringLiteral("missing.json")).toStdString()));
+}
+
+namespace {
+
+std::shared_ptr<ILMFormatNode> Tolerantly(const std::string& text, LMFormatReadReport* report) {
+    LMFormatReadOptions options;
+    options.keepUnreadable = true;
+    options.report = report;
+    return ILMFormatNode::MallocFormatNode(ILMJsonReader::ReadJsonString(text, nullptr), options);
+}
+
+} // namespace
+
+TEST(ILMFormatNodeTest, SettersCutTextsToTheLimitTheReaderAccepts) {
+    auto node = MakeNode("x");
+    node->SetTitle(std::string(ILMFormatNode::MaxTextLength + 10, 'n'));
+    EXPECT_EQ(QString::fromStdString(node->Title()).size(), ILMFormatNode::MaxTextLength);
+    // A character outside the basic plane is never cut in half.
+    std::string emoji;
+    for (int i = 0; i < ILMFormatNode::MaxTextLength; ++i)
+        emoji += "\xF0\x9F\x8E\xAC";
+    auto preset = MakePreset("mp4", "p");
+    preset->SetDescription(emoji);
+    EXPECT_EQ(QString::fromStdString(preset->Description()).size(), ILMFormatNode::MaxTextLength);
+    preset->SetTitle("y");
+    preset->SetFaceID(-5);
+    EXPECT_EQ(preset->FaceID(), 0);
+    node->SetFaceID(2000000000);
+    EXPECT_EQ(node->FaceID(), ILMFormatNode::MaxFaceID);
+    node->AddFormatPreset(preset);
+    EXPECT_TRUE(RoundTrip(node));
+    EXPECT_FALSE(
+        ILMFormatNode::IsAcceptableText(std::string(ILMFormatNode::MaxTextLength + 1, 'n')));
+    EXPECT_TRUE(ILMFormatNode::IsAcceptableText(std::string(ILMFormatNode::MaxTextLength, 'n')));
+}
+
+TEST(ILMFormatNodeTest, ReadingKeepUnreadableCarriesWhatItCannotReadInItsPlace) {
+    const std::string text =
+        R"({"children":[{"presets":[{"audio":{"codec":"aac"},"format":"mp4","title":"a","video":{"codec":"h264"}},{"format":"future","title":"b"},)"
+        R"({"audio":{"codec":"aac"},"format":"mp4","title":"c","video":{"codec":"h264"}}],"title":"G"},{"presets":[{"format":"mp4","title":"d",)"
+        R"("video":{"codec":"h266"}}],"title":"Only unreadable"},{"title":7}],"title":"Custom"})";
+    EXPECT_FALSE(FromText(text)); // a catalogue is all or nothing
+    LMFormatReadReport report;
+    const auto tree = Tolerantly(text, &report);
+    ASSERT_TRUE(tree);
+    EXPECT_EQ(report.carried, 3);
+    ASSERT_EQ(tree->ChildCount(), 1);
+    EXPECT_EQ(tree->ChildAt(0)->FormatPresetCount(), 2);
+    EXPECT_EQ(ILMFormatNode::UnreadableEntryCount(tree), 3);
+    EXPECT_EQ(ILMJsonWriter::WriteJsonString(tree->ToJson()), text);
+}
+
+TEST(ILMFormatNodeTest, FieldsOfAnotherVersionAndUnreadableAttributesAreWrittenBackAsRead) {
+    const std::string text =
+        R"({"faceId":5000000000,"presets":[{"audio":{"codec":"aac"},"format":"mp4","rating":{"stars":5},"title":"p","video":{"codec":"h264"}}],)"
+        R"("title":"R","zz":[1,2]})";
+    LMFormatReadReport report;
+    const auto tree = Tolerantly(text, &report);
+    ASSERT_TRUE(tree);
+    EXPECT_EQ(report.repaired, 1);
+    EXPECT_EQ(tree->FaceID(), 0);
+    EXPECT_EQ(ILMJsonWriter::WriteJsonString(tree->ToJson()), text);
+}
+
+TEST(ILMFormatNodeTest, SettingAChildAsideKeepsItInWhatIsWritten) {
+    const std::string text =
+        R"({"children":[{"presets":[{"audio":{"codec":"aac"},"format":"mp4","title":"a","video":{"codec":"h264"}},{"format":"future","title":"b"}],)"
+        R"("title":"G"},{"presets":[{"audio":{"codec":"aac"},"format":"mp4","title":"c","video":{"codec":"h264"}}],"title":"H"}],"title":"Custom"})";
+    const auto tree = Tolerantly(text, nullptr);
+    ASSERT_TRUE(tree);
+    ASSERT_TRUE(tree->ChildAt(0)->RemoveFormatPreset("a"));
+    ASSERT_TRUE(ILMFormatNode::SetChildAside(tree, "G"));
+    EXPECT_EQ(tree->ChildCount(), 1);
+    EXPECT_EQ(
+        ILMJsonWriter::WriteJsonString(tree->ToJson()),
+        R"({"children":[{"presets":[{"format":"future","title":"b"}],"title":"G"},)"
+        R"({"presets":[{"audio":{"codec":"aac"},"format":"mp4","title":"c","video":{"codec":"h264"}}],"title":"H"}],"title":"Custom"})");
+    EXPECT_FALSE(ILMFormatNode::SetChildAside(tree, "nobody"));
+}
+
+TEST(ILMFormatNodeTest, ASetCancelFlagStopsTheRead) {
+    std::atomic<bool> cancel = true;
+    LMFormatReadOptions options;
+    options.cancel = &cancel;
+    EXPECT_FALSE(ILMFormatNode::MallocFormatNode(
+        ILMJsonReader::ReadJsonString(R"({"title":"x"})", nullptr), options));
 }

@@ -1,6 +1,8 @@
 #include "LMFFmpegArguments.h"
 #include "LMFormatTreeFactory.h"
 
+#include <QProcess>
+
 #include <gtest/gtest.h>
 
 using namespace Lumeran;
@@ -62,4 +64,23 @@ TEST(LMFFmpegArgumentsTest, CommandWrapsInputAndOutput) {
 TEST(LMFFmpegArgumentsTest, JoinQuotesWhatAShellWouldSplit) {
     EXPECT_EQ(LMFFmpegArguments::Join({"-i", "my file.mov", "it's", ""}),
               "-i 'my file.mov' 'it'\\''s' ''");
+}
+
+// Whatever an argument holds, a POSIX shell given the joined line hands the
+// program exactly the arguments that were joined.
+TEST(LMFFmpegArgumentsTest, JoinedArgumentsReachAProgramUnchangedThroughARealShell) {
+    const std::vector<std::string> arguments = {
+        "-i",     "my file.mov", "it's",      "",           "line\nbreak", "tab\there",
+        "$HOME",  "`id`",        "$(id)",     "a;b",        "a&b|c",       "*.mov",
+        "~",      "X=1",         "back\\sl",  "\"quoted\"", "#hash",       "日本語.mp4",
+        "{a,b}",  "[ab]",        "!event",    "a>b<c",      "-c:v",        "scale=1280:720"};
+    QProcess shell;
+    shell.start(QStringLiteral("/bin/sh"),
+                {QStringLiteral("-c"),
+                 QString::fromStdString("printf '%s\\0' " + LMFFmpegArguments::Join(arguments))});
+    ASSERT_TRUE(shell.waitForFinished(30000));
+    const QList<QByteArray> received = shell.readAllStandardOutput().split('\0');
+    ASSERT_EQ(received.size(), static_cast<qsizetype>(arguments.size()) + 1);
+    for (std::size_t i = 0; i < arguments.size(); ++i)
+        EXPECT_EQ(received[static_cast<qsizetype>(i)].toStdString(), arguments[i]) << i;
 }

@@ -8,6 +8,7 @@
 //   lmformat search CATALOGUE TEXT
 //   lmformat recent list | push CATALOGUE "CATEGORY/FORMAT/PRESET" | remove TITLE
 //   lmformat custom list | add CATALOGUE "CATEGORY/FORMAT/PRESET" NAME | remove NODE PRESET
+//   lmformat recent|custom backups | restore N
 //
 // The lists live where a host keeps them: in the application settings, here the
 // default QSettings of "lmformat" by "Lumeran", or the INI file of --settings.
@@ -22,6 +23,7 @@
 #include "LMFormatInternationalizationMgr.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QStringList>
 
 #include <cstdio>
@@ -118,11 +120,12 @@ FindPreset(const std::shared_ptr<const ILMFormatNode>& root, const std::string& 
 
 using Command = std::function<int(const QStringList&)>;
 
-// A change that did not reach the store is a failure worth an exit code.
+// A change that did not reach the store is a failure worth an exit code; the
+// data source's failure handler has already said why.
 int SettingsWritten() {
-    if (ILMAppSettings::Shared()->LastSynchronizeSucceeded())
+    if (ILMFmtPresetDataSource::Shared()->LastSaveSucceeded())
         return 0;
-    return Fail("could not write the settings");
+    return 1;
 }
 
 int Validate(const QStringList& args) {
@@ -243,6 +246,9 @@ int CustomAdd(const QStringList& args) {
     const std::string name = args.at(2).toStdString();
     if (name.empty())
         return Fail("a custom preset needs a name");
+    if (!ILMFormatNode::IsAcceptableText(name))
+        return Fail("a custom preset name is limited to " +
+                    std::to_string(ILMFormatNode::MaxTextLength) + " characters");
     // The data source files a copy of what it is given; name that copy's source.
     auto named = preset->Clone();
     named->SetTitle(name);
@@ -263,6 +269,48 @@ int CustomRemove(const QStringList& args) {
                     args.at(1).toStdString() + "\"");
     source->SaveCustomList();
     return SettingsWritten();
+}
+
+// "lmformat recent|custom backups": number, date, entries, and whether the value
+// was put aside because it could not be read in full.
+Command Backups(ILMFmtPresetDataSource::StoredList list) {
+    return [list](const QStringList& args) {
+        if (!args.isEmpty())
+            return Fail("usage: lmformat recent|custom backups");
+        const auto backups = ILMFmtPresetDataSource::Shared()->GetBackups(list);
+        if (backups.empty())
+            Print("no backups");
+        for (std::size_t i = 0; i < backups.size(); ++i) {
+            const LMPresetBackup& backup = backups[i];
+            const QString date = QDateTime::fromMSecsSinceEpoch(backup.savedAtMs)
+                                     .toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+            std::printf("%zu\t%s\t%d %s%s\t%s\n", i + 1, date.toUtf8().constData(),
+                        backup.entryCount, backup.entryCount == 1 ? "entry" : "entries",
+                        backup.unreadable ? " (could not be read in full)" : "",
+                        backup.path.c_str());
+        }
+        return 0;
+    };
+}
+
+// "lmformat recent|custom restore N": N as "backups" numbers them, from 1.
+Command Restore(ILMFmtPresetDataSource::StoredList list) {
+    return [list](const QStringList& args) {
+        bool ok = false;
+        const int number = args.size() == 1 ? args.at(0).toInt(&ok) : 0;
+        if (!ok || number < 1)
+            return Fail("usage: lmformat recent|custom restore N (N from \"backups\")");
+        const auto source = ILMFmtPresetDataSource::Shared();
+        if (!source->RestoreBackup(list, number - 1))
+            return Fail("backup " + std::to_string(number) +
+                        " does not exist or holds nothing "
+                        "readable");
+        if (list == ILMFmtPresetDataSource::StoredList::Recent)
+            source->SaveRecentList();
+        else
+            source->SaveCustomList();
+        return SettingsWritten();
+    };
 }
 
 // "recent" and "custom" take a verb of their own.
@@ -288,6 +336,8 @@ int Usage() {
                  "       lmformat custom list\n"
                  "       lmformat custom add CATALOGUE \"CATEGORY/FORMAT/PRESET\" NAME\n"
                  "       lmformat custom remove NODE PRESET\n"
+                 "       lmformat recent|custom backups\n"
+                 "       lmformat recent|custom restore N\n"
                  "--settings FILE keeps the recent and custom lists in that INI file instead of\n"
                  "the application settings of lmformat.\n");
     return 2;
@@ -325,23 +375,31 @@ int main(int argc, char** argv) {
     }
     if (args.isEmpty())
         return Usage();
+    ILMFmtPresetDataSource::Shared()->SetSaveFailureHandler(
+        [](const std::string& message) { Fail(message); });
     const std::map<QString, Command> commands{
         {QStringLiteral("validate"), Validate},
         {QStringLiteral("tree"), Tree},
         {QStringLiteral("ffmpeg"), FFmpeg},
         {QStringLiteral("search"), Search},
         {QStringLiteral("recent"),
-         WithVerbs({{QStringLiteral("list"), RecentList},
-                    {QStringLiteral("push"), RecentPush},
-                    {QStringLiteral("remove"), RecentRemove}},
-                   "usage: lmformat recent list | push CATALOGUE \"CATEGORY/FORMAT/PRESET\" | "
-                   "remove TITLE")},
+         WithVerbs(
+             {{QStringLiteral("list"), RecentList},
+              {QStringLiteral("push"), RecentPush},
+              {QStringLiteral("remove"), RecentRemove},
+              {QStringLiteral("backups"), Backups(ILMFmtPresetDataSource::StoredList::Recent)},
+              {QStringLiteral("restore"), Restore(ILMFmtPresetDataSource::StoredList::Recent)}},
+             "usage: lmformat recent list | push CATALOGUE \"CATEGORY/FORMAT/PRESET\" | "
+             "remove TITLE | backups | restore N")},
         {QStringLiteral("custom"),
-         WithVerbs({{QStringLiteral("list"), CustomList},
-                    {QStringLiteral("add"), CustomAdd},
-                    {QStringLiteral("remove"), CustomRemove}},
-                   "usage: lmformat custom list | add CATALOGUE \"CATEGORY/FORMAT/PRESET\" NAME | "
-                   "remove NODE PRESET")}};
+         WithVerbs(
+             {{QStringLiteral("list"), CustomList},
+              {QStringLiteral("add"), CustomAdd},
+              {QStringLiteral("remove"), CustomRemove},
+              {QStringLiteral("backups"), Backups(ILMFmtPresetDataSource::StoredList::Custom)},
+              {QStringLiteral("restore"), Restore(ILMFmtPresetDataSource::StoredList::Custom)}},
+             "usage: lmformat custom list | add CATALOGUE \"CATEGORY/FORMAT/PRESET\" NAME | "
+             "remove NODE PRESET | backups | restore N")}};
     const auto found = commands.find(args.takeFirst());
     if (found == commands.end())
         return Usage();

@@ -1,0 +1,139 @@
+#include "LMPresetBackupFolder.h"
+
+#include "ILMFileProvider.h"
+
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+
+#include <algorithm>
+
+namespace Lumeran {
+
+namespace {
+
+constexpr auto kUnreadablePrefix = "unreadable-";
+// Backup values are copies of stored values, which the reader refuses past this
+// size anyway; a bigger file in the folder is not ours.
+constexpr std::int64_t kMaxValueBytes = std::int64_t(512) * 1024 * 1024;
+
+QString Hash(const std::string& value) {
+    const QByteArray digest =
+        QCryptographicHash::hash(QByteArrayView(value.data(), static_cast<qsizetype>(value.size())),
+                                 QCryptographicHash::Sha256);
+    return QString::fromLatin1(digest.toHex().left(16));
+}
+
+// "<prefix><milliseconds>-<hash>.b64"
+QString FileName(const QString& prefix, qint64 ms, const QString& hash) {
+    return prefix + QStringLiteral("%1-%2.b64").arg(ms, 13, 10, QLatin1Char('0')).arg(hash);
+}
+
+struct Parsed {
+    bool unreadable = false;
+    qint64 ms = 0;
+    QString hash;
+};
+
+bool Parse(QString name, Parsed* out) {
+    if (!name.endsWith(QLatin1StringView(".b64")))
+        return false;
+    name.chop(4);
+    out->unreadable = name.startsWith(QLatin1StringView(kUnreadablePrefix));
+    if (out->unreadable)
+        name.remove(0, int(qstrlen(kUnreadablePrefix)));
+    const qsizetype dash = name.indexOf(QLatin1Char('-'));
+    if (dash <= 0)
+        return false;
+    bool ok = false;
+    out->ms = name.left(dash).toLongLong(&ok);
+    out->hash = name.mid(dash + 1);
+    return ok && !out->hash.isEmpty();
+}
+
+} // namespace
+
+LMPresetBackupFolder::LMPresetBackupFolder(std::string folder, int keep)
+    : m_folder(std::move(folder)), m_keep(std::max(1, keep)) {}
+
+bool LMPresetBackupFolder::KeepReplaced(const std::string& value) const {
+    if (Write(QString(), value, value).empty())
+        return false;
+    Prune();
+    return true;
+}
+
+std::string LMPresetBackupFolder::KeepUnreadable(const std::string& value,
+                                                 const std::string& identity) const {
+    return Write(QString::fromLatin1(kUnreadablePrefix), value,
+                 identity.empty() ? value : identity);
+}
+
+std::string LMPresetBackupFolder::Write(const QString& prefix, const std::string& value,
+                                        const std::string& identity) const {
+    if (m_folder.empty())
+        return {};
+    const QDir dir(QString::fromStdString(m_folder));
+    if (!dir.mkpath(QStringLiteral(".")))
+        return {};
+    const QString hash = Hash(identity);
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    const QString target = dir.filePath(FileName(prefix, now, hash));
+    // The same value kept before: an unreadable one stays where it is; a replaced
+    // one moves to the front by taking the current time in its name.
+    for (const QString& name : dir.entryList(QDir::Files)) {
+        Parsed parsed;
+        if (!Parse(name, &parsed) || parsed.hash != hash || parsed.unreadable != !prefix.isEmpty())
+            continue;
+        if (parsed.unreadable)
+            return dir.filePath(name).toStdString();
+        if (QFile::rename(dir.filePath(name), target))
+            return target.toStdString();
+    }
+    QSaveFile file(target);
+    if (!file.open(QIODevice::WriteOnly))
+        return {};
+    file.write(value.data(), static_cast<qint64>(value.size()));
+    if (!file.commit())
+        return {};
+    return target.toStdString();
+}
+
+void LMPresetBackupFolder::Prune() const {
+    std::vector<LMPresetBackup> rolling;
+    for (const LMPresetBackup& backup : List()) {
+        if (!backup.unreadable)
+            rolling.push_back(backup);
+    }
+    for (std::size_t i = static_cast<std::size_t>(m_keep); i < rolling.size(); ++i)
+        QFile::remove(QString::fromStdString(rolling[i].path));
+}
+
+std::vector<LMPresetBackup> LMPresetBackupFolder::List() const {
+    std::vector<LMPresetBackup> result;
+    if (m_folder.empty())
+        return result;
+    const QDir dir(QString::fromStdString(m_folder));
+    for (const QString& name : dir.entryList(QDir::Files)) {
+        Parsed parsed;
+        if (!Parse(name, &parsed))
+            continue;
+        LMPresetBackup backup;
+        backup.path = dir.filePath(name).toStdString();
+        backup.savedAtMs = parsed.ms;
+        backup.unreadable = parsed.unreadable;
+        result.push_back(std::move(backup));
+    }
+    std::sort(result.begin(), result.end(), [](const auto& a, const auto& b) {
+        return a.savedAtMs != b.savedAtMs ? a.savedAtMs > b.savedAtMs : a.path > b.path;
+    });
+    return result;
+}
+
+bool LMPresetBackupFolder::ReadValue(const std::string& path, std::string* value) {
+    return ILMFileProvider::ReadRegularFile(path, kMaxValueBytes, value, nullptr);
+}
+
+} // namespace Lumeran

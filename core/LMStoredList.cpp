@@ -1,0 +1,267 @@
+#include "LMStoredList.h"
+
+#include "ILMAppSettings.h"
+#include "ILMBase64Codec.h"
+#include "ILMJsonReader.h"
+#include "ILMJsonWriter.h"
+#include "ILMLogConfig.h"
+#include "LMFormatReadOptions.h"
+#include "LMFormatReadReport.h"
+#include "LMStoredListMerge.h"
+
+#include <QDir>
+#include <QStandardPaths>
+
+namespace Lumeran {
+
+namespace {
+
+// Beside the settings file when there is one ("<file>.preset-backups/<key>"),
+// else in the application's data folder.
+std::string BackupFolderFor(const std::string& key) {
+    const std::string store = ILMAppSettings::Shared()->StorePath();
+    QString base;
+    if (!store.empty())
+        base = QString::fromStdString(store) + QStringLiteral(".preset-backups");
+    else if (const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+             !data.isEmpty())
+        base = data + QStringLiteral("/preset-backups");
+    if (base.isEmpty())
+        return {};
+    return QDir(base).filePath(QString::fromStdString(key)).toStdString();
+}
+
+int MajorVersion(const std::string& stamp) {
+    try {
+        return std::stoi(stamp);
+    } catch (...) {
+        return 0; // unreadable stamps are taken as written before stamps existed
+    }
+}
+
+QJsonObject JsonOf(const std::shared_ptr<const ILMFormatNode>& tree) {
+    if (!tree)
+        return {};
+    const auto json = tree->ToJson();
+    return json ? json->Value().toObject() : QJsonObject();
+}
+
+} // namespace
+
+LMStoredList::LMStoredList(std::string key, Kind kind,
+                           std::shared_ptr<const ILMFormatNode> defaultRoot)
+    : m_key(std::move(key)), m_kind(kind), m_defaultRoot(std::move(defaultRoot)),
+      m_backups(BackupFolderFor(m_key)) {}
+
+LMStoredList::Reading LMStoredList::Read(const std::string& value, bool salvageBase64) const {
+    Reading best;
+    best.complete = false;
+    if (value.empty())
+        return best;
+    std::vector<std::string> decodings;
+    const std::string decoded = ILMBase64Codec::Decode(value);
+    const bool decodedWhole = !decoded.empty();
+    if (decodedWhole)
+        decodings.push_back(decoded);
+    else if (salvageBase64)
+        decodings = ILMBase64Codec::SalvageDecodings(value);
+    // Damaged text may be read several ways; the one that keeps most entries wins.
+    int bestCount = -1;
+    for (const std::string& text : decodings) {
+        bool jsonWhole = false;
+        const auto json = ILMJsonReader::ReadJsonStringSalvaging(text, &jsonWhole);
+        if (!json)
+            continue;
+        LMFormatReadReport report;
+        LMFormatReadOptions options;
+        options.keepUnreadable = true;
+        options.report = &report;
+        auto tree = ILMFormatNode::MallocFormatNode(json, options);
+        if (!tree)
+            continue;
+        if (m_defaultRoot) {
+            tree->SetTitle(m_defaultRoot->Title());
+            tree->SetDescription(m_defaultRoot->Description());
+            tree->SetFaceID(m_defaultRoot->FaceID());
+        }
+        const int count = EntryCount(tree);
+        if (count <= bestCount)
+            continue;
+        bestCount = count;
+        best.tree = std::move(tree);
+        // Read in full means written back exactly: anything the writer would not
+        // reproduce byte for byte (duplicate keys, text in another form, bytes
+        // replaced on the way in) is worth keeping as it was.
+        // Entries carried unread count as read here: they are written back as
+        // they are.
+        const bool exact = decodedWhole && jsonWhole &&
+                           ILMJsonWriter::WriteJsonString(best.tree->ToJson()) == text;
+        best.complete = exact && report.Complete();
+        best.notUnderstood = report.carried + report.repaired;
+        best.notUnderstoodParts = exact ? report.notUnderstood : std::string();
+    }
+    return best;
+}
+
+int LMStoredList::EntryCount(const std::shared_ptr<const ILMFormatNode>& tree) {
+    if (!tree)
+        return 0;
+    int count = tree->FormatPresetCount();
+    for (int i = 0; i < tree->ChildCount(); ++i)
+        count += EntryCount(tree->ChildAt(i));
+    return count;
+}
+
+bool LMStoredList::Preserve(const std::string& value, const std::string& why, bool quiet,
+                            const std::string& identity) {
+    const std::string path = m_backups.KeepUnreadable(value, identity);
+    if (path.empty()) {
+        m_unpreserved = value;
+        ILMLogConfig::Printf("The stored %s %s, and no copy of it could be written to %s; it "
+                             "will not be overwritten until one can",
+                             m_key.c_str(), why.c_str(), m_backups.Folder().c_str());
+        return false;
+    }
+    if (!quiet)
+        ILMLogConfig::Printf("The stored %s %s; a copy of it is kept in %s", m_key.c_str(),
+                             why.c_str(), path.c_str());
+    return true;
+}
+
+std::shared_ptr<ILMFormatNode> LMStoredList::Load() {
+    const auto settings = ILMAppSettings::Shared();
+    const std::string value = settings->StringValue(m_key);
+    // Earlier lines that repeat the key are values nobody reads any more.
+    for (const std::string& shadowed : settings->ShadowedValues(m_key)) {
+        if (!shadowed.empty() && shadowed != value)
+            Preserve(shadowed, "appears more than once in the settings");
+    }
+    m_base = value.empty() ? std::nullopt : std::optional<std::string>(value);
+    m_baseJson = {};
+    if (value.empty())
+        return {};
+    Reading reading = Read(value);
+    if (!reading.complete) {
+        // A value that is no Base64 at all is put aside without a word, as hosts
+        // have always seen it read as an empty list; the backups list shows it.
+        const bool quiet = ILMBase64Codec::Decode(value).empty();
+        const int kept = EntryCount(reading.tree);
+        Preserve(value,
+                 reading.tree
+                     ? "could not be read in full (" + std::to_string(kept) + " entries kept, " +
+                           std::to_string(reading.notUnderstood) + " not understood)"
+                     : std::string("could not be read"),
+                 quiet, reading.notUnderstoodParts);
+    }
+    m_baseJson = JsonOf(reading.tree);
+    return reading.tree;
+}
+
+std::optional<std::string> LMStoredList::Encode(const QJsonObject& json) {
+    const std::string text = ILMJsonWriter::WriteJsonString(ILMJsonValue::MallocJsonValue(json));
+    // What the reader would refuse is never written.
+    if (text.empty() || static_cast<std::int64_t>(text.size()) > ILMJsonReader::MaxFileSize)
+        return std::nullopt;
+    return ILMBase64Codec::Encode(text);
+}
+
+bool LMStoredList::Save(const std::shared_ptr<const ILMFormatNode>& tree,
+                        std::shared_ptr<ILMFormatNode>* merged) {
+    if (merged)
+        merged->reset();
+    m_lastError.clear();
+    if (!tree) {
+        m_lastError = "nothing to save";
+        return false;
+    }
+    if (m_unpreserved && !Preserve(*m_unpreserved, "could not be read in full"))
+        m_lastError = "no copy could be kept of the stored " + m_key + " that could not be read";
+    else
+        m_unpreserved.reset();
+    if (!m_lastError.empty()) {
+        ILMLogConfig::Printf("Not saving %s: %s", m_key.c_str(), m_lastError.c_str());
+        return false;
+    }
+
+    const QJsonObject ours = JsonOf(tree);
+    std::optional<std::string> written;
+    QJsonObject writtenJson;
+    std::shared_ptr<ILMFormatNode> mergedTree;
+    const auto update =
+        [&](const ILMAppSettings::Values& stored) -> std::optional<ILMAppSettings::Values> {
+        if (const auto stamp = stored.find(VersionKey);
+            stamp != stored.end() && MajorVersion(stamp->second) > Version) {
+            m_lastError = "the stored lists were written by a newer version (" + stamp->second +
+                          ") and are left as they are";
+            return std::nullopt;
+        }
+        const auto found = stored.find(m_key);
+        const std::optional<std::string> current = found == stored.end() || found->second.empty()
+                                                       ? std::nullopt
+                                                       : std::optional(found->second);
+        QJsonObject result = ours;
+        mergedTree.reset();
+        if (current != m_base && current) {
+            // Another process saved since we read: merge with what it stored.
+            const Reading theirs = Read(*current);
+            if (!theirs.complete && !Preserve(*current, "could not be read in full", false,
+                                              theirs.notUnderstoodParts)) {
+                m_lastError = "no copy could be kept of the stored " + m_key;
+                return std::nullopt;
+            }
+            const QJsonObject theirJson = JsonOf(theirs.tree);
+            result = m_kind == Kind::Recent
+                         ? LMStoredListMerge::MergeRecent(m_baseJson, theirJson, ours)
+                         : LMStoredListMerge::MergeCustom(m_baseJson, theirJson, ours);
+            LMFormatReadOptions options;
+            options.keepUnreadable = true;
+            mergedTree =
+                ILMFormatNode::MallocFormatNode(ILMJsonValue::MallocJsonValue(result), options);
+            if (!mergedTree) {
+                m_lastError = "the merged " + m_key + " could not be read back";
+                return std::nullopt;
+            }
+            result = JsonOf(mergedTree);
+        }
+        written = Encode(result);
+        if (!written) {
+            m_lastError = "the " + m_key + " is too large to be read back";
+            return std::nullopt;
+        }
+        if (current && *current != *written && !m_backups.KeepReplaced(*current))
+            ILMLogConfig::Printf("No backup of the replaced %s could be written to %s",
+                                 m_key.c_str(), m_backups.Folder().c_str());
+        writtenJson = result;
+        return ILMAppSettings::Values{{m_key, *written}, {VersionKey, std::to_string(Version)}};
+    };
+    const bool ok = ILMAppSettings::Shared()->Transact({m_key, VersionKey}, update);
+    if (!ok && m_lastError.empty())
+        m_lastError = "the settings could not be written";
+    if (!ok || !m_lastError.empty()) {
+        ILMLogConfig::Printf("Not saving %s: %s", m_key.c_str(), m_lastError.c_str());
+        return false;
+    }
+    m_base = written;
+    m_baseJson = writtenJson;
+    if (merged)
+        *merged = std::move(mergedTree);
+    return true;
+}
+
+std::vector<LMPresetBackup> LMStoredList::Backups() const {
+    std::vector<LMPresetBackup> backups = m_backups.List();
+    for (LMPresetBackup& backup : backups)
+        backup.entryCount = EntryCount(ReadBackup(backup));
+    return backups;
+}
+
+std::shared_ptr<ILMFormatNode> LMStoredList::ReadBackup(const LMPresetBackup& backup) const {
+    std::string value;
+    if (!LMPresetBackupFolder::ReadValue(backup.path, &value))
+        return {};
+    // Putting an earlier value back is the user's own recovery: from a value that
+    // was put aside because its Base64 was damaged, whatever can be salvaged.
+    return Read(value, true).tree;
+}
+
+} // namespace Lumeran
