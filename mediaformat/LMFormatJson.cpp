@@ -116,34 +116,38 @@ private:
     void RepairTitle(LMFormatNode& node, int depth) {
         if (node.FormatPresetCount() == 0 && depth > 0)
             throw FormatError("a node without a title or presets");
-        if (m_options.report) {
-            ++m_options.report->repaired;
-            m_options.report->notUnderstood += "no title\n";
-        }
+        Note(&LMFormatReadReport::repaired, QStringLiteral("no title"));
         if (node.FormatPresetCount() > 0)
             node.SetTitle(node.FormatPresetAt(0)->FormatName());
     }
 
-    // An entry of a list: read, or with keepUnreadable, nothing and counted as carried.
-    template <typename Read>
-    auto Entry(const QJsonValue& value, const Read& read) -> decltype(read()) {
+    // With keepUnreadable, what read cannot read gives an empty result and is
+    // noted by onFailure; without, the reader's error rejects the whole tree.
+    template <typename Read, typename OnFailure>
+    auto Tolerating(const Read& read, const OnFailure& onFailure) -> decltype(read()) {
         if (!m_options.keepUnreadable)
             return read();
         try {
             return read();
         } catch (const FormatError&) {
-            if (m_options.report) {
-                ++m_options.report->carried;
-                Note(value);
-            }
+            onFailure();
             return {};
         }
     }
 
-    void Note(const QJsonValue& value) {
-        QJsonArray wrapper{value};
+    // Counts what was not understood and keeps its text for the report.
+    void Note(int LMFormatReadReport::*counter, const QJsonValue& value) {
+        if (!m_options.report)
+            return;
+        ++(m_options.report->*counter);
         m_options.report->notUnderstood +=
-            QJsonDocument(wrapper).toJson(QJsonDocument::Compact).toStdString() + "\n";
+            QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).toStdString() + "\n";
+    }
+
+    // An entry of a list: read, or with keepUnreadable, nothing and carried.
+    template <typename Read>
+    auto Entry(const QJsonValue& value, const Read& read) -> decltype(read()) {
+        return Tolerating(read, [&] { Note(&LMFormatReadReport::carried, value); });
     }
 
     // An attribute of an entry that was read: with keepUnreadable, one that cannot
@@ -152,18 +156,11 @@ private:
     template <typename Read>
     auto Attribute(const QJsonObject& object, const char* key, QJsonObject& extra, const Read& read)
         -> decltype(read()) {
-        if (!m_options.keepUnreadable)
-            return read();
-        try {
-            return read();
-        } catch (const FormatError&) {
-            if (m_options.report) {
-                ++m_options.report->repaired;
-                Note(QJsonObject{{QLatin1StringView(key), object.value(Key(key))}});
-            }
-            extra.insert(Key(key), object.value(Key(key)));
-            return {};
-        }
+        return Tolerating(read, [&] {
+            const QJsonValue stored = object.value(Key(key));
+            Note(&LMFormatReadReport::repaired, QJsonObject{{QLatin1StringView(key), stored}});
+            extra.insert(Key(key), stored);
+        });
     }
 
     std::shared_ptr<ILMFormatPreset> Preset(const QJsonValue& value) {

@@ -348,17 +348,9 @@ const Kind kKinds[] = {
          d.minCustom = kCustom - kPerGroup;
      }},
     {"ARecentEntryWithUnknownCodec", [](Damage& d) {
-         QJsonObject root = Object(d.recent);
-         QJsonArray children = root.value(QStringLiteral("children")).toArray();
-         QJsonObject child = children.at(2).toObject();
-         QJsonArray presets = child.value(QStringLiteral("presets")).toArray();
-         QJsonObject preset = presets.at(0).toObject();
-         preset.insert(QStringLiteral("audio"),
-                       QJsonObject{{QStringLiteral("codec"), QStringLiteral("opus-next")}});
-         presets.replace(0, preset);
-         child.insert(QStringLiteral("presets"), presets);
-         children.replace(2, child);
-         root.insert(QStringLiteral("children"), children);
+         const QJsonObject root = WithPresetField(
+             Object(d.recent), 2, 0, QStringLiteral("audio"),
+             QJsonObject{{QStringLiteral("codec"), QStringLiteral("opus-next")}});
          SetValue(d, RecentKey, Encode(QJsonDocument(root).toJson(QJsonDocument::Compact)));
          d.recentDamaged = true;
          d.minRecent = kRecent - 1;

@@ -54,17 +54,16 @@ TEST_F(LMStoredListTest, ANameOverTheLimitIsCutBeforeItIsStoredAndTheWholeListRe
 
 TEST_F(LMStoredListTest, AnEntryNamingAnUnknownCodecKeepsEveryOtherEntryAndIsSavedAgainUnchanged) {
     SeedStore(0, 2, 3);
-    QJsonObject custom = StoredJson(CustomKey);
-    QJsonArray groups = custom.value(QStringLiteral("children")).toArray();
-    QJsonObject group = groups.at(1).toObject();
-    QJsonArray presets = group.value(QStringLiteral("presets")).toArray();
-    QJsonObject foreign = presets.at(1).toObject();
-    foreign.insert(QStringLiteral("video"),
-                   QJsonObject{{QStringLiteral("codec"), QStringLiteral("h266-from-the-future")}});
-    presets.replace(1, foreign);
-    group.insert(QStringLiteral("presets"), presets);
-    groups.replace(1, group);
-    custom.insert(QStringLiteral("children"), groups);
+    const QJsonObject custom = WithPresetField(
+        StoredJson(CustomKey), 1, 1, QStringLiteral("video"),
+        QJsonObject{{QStringLiteral("codec"), QStringLiteral("h266-from-the-future")}});
+    const QJsonValue foreign = custom.value(QStringLiteral("children"))
+                                   .toArray()
+                                   .at(1)
+                                   .toObject()
+                                   .value(QStringLiteral("presets"))
+                                   .toArray()
+                                   .at(1);
     const std::string damaged = EncodeJson(custom);
     ILMAppSettings::Shared()->SetStringValue(damaged, CustomKey);
     ILMAppSettings::Shared()->Synchronize();
@@ -83,7 +82,7 @@ TEST_F(LMStoredListTest, AnEntryNamingAnUnknownCodecKeepsEveryOtherEntryAndIsSav
                                         .value(QStringLiteral("presets"))
                                         .toArray();
     ASSERT_EQ(savedPresets.size(), 3);
-    EXPECT_EQ(savedPresets.at(1).toObject(), foreign);
+    EXPECT_EQ(savedPresets.at(1), foreign);
     EXPECT_TRUE(BackupHoldsValue(damaged));
     LMFmtPresetDataSource reread;
     EXPECT_EQ(CustomEntries(reread).size(), 6u);
@@ -172,12 +171,8 @@ TEST_F(LMStoredListTest, DuplicateKeysKeepTheValueThatIsNotReadInABackup) {
 }
 
 TEST_F(LMStoredListTest, AFailedSaveIsReportedKeptInMemoryAndWrittenByTheNextSave) {
-    // A file where the settings' folder should be: no one, root included, can
-    // write there until it is replaced by a folder.
     QTemporaryDir dir;
-    const QString blocker = dir.filePath(QStringLiteral("blocked"));
-    WriteFile(blocker, "a file, not a folder");
-    ILMAppSettings::UseSettingsFile(QDir(blocker).filePath(QStringLiteral("s.ini")).toStdString());
+    const QString blocker = BlockSettingsFolder(dir);
 
     LMFmtPresetDataSource source;
     std::vector<std::string> reports;
@@ -203,9 +198,7 @@ TEST_F(LMStoredListTest, AFailedSaveIsReportedKeptInMemoryAndWrittenByTheNextSav
 
 TEST_F(LMStoredListTest, ASaveAfterAFailedOneReportsSuccess) {
     QTemporaryDir dir;
-    const QString blocker = dir.filePath(QStringLiteral("blocked"));
-    WriteFile(blocker, "x");
-    ILMAppSettings::UseSettingsFile(QDir(blocker).filePath(QStringLiteral("s.ini")).toStdString());
+    const QString blocker = BlockSettingsFolder(dir);
     LMFmtPresetDataSource source;
     source.SaveRecentList();
     ASSERT_FALSE(source.LastSaveSucceeded());

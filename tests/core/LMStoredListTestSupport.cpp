@@ -5,8 +5,10 @@
 #include "LMCoreTestSupport.h"
 #include "LMFmtPresetDataSource.h"
 
+#include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 
 namespace Lumeran::TestSupport {
@@ -76,6 +78,29 @@ bool BackupHoldsValue(const std::string& value) {
             return true;
     }
     return false;
+}
+
+QJsonObject WithPresetField(QJsonObject root, int child, int preset, const QString& key,
+                            const QJsonValue& value) {
+    const QString childrenKey = QStringLiteral("children");
+    const QString presetsKey = QStringLiteral("presets");
+    QJsonArray children = root.value(childrenKey).toArray();
+    QJsonObject node = children.at(child).toObject();
+    QJsonArray presets = node.value(presetsKey).toArray();
+    QJsonObject entry = presets.at(preset).toObject();
+    entry.insert(key, value);
+    presets.replace(preset, entry);
+    node.insert(presetsKey, presets);
+    children.replace(child, node);
+    root.insert(childrenKey, children);
+    return root;
+}
+
+QString BlockSettingsFolder(const QTemporaryDir& dir) {
+    const QString blocker = dir.filePath(QStringLiteral("blocked"));
+    WriteFile(blocker, "a file, not a folder");
+    ILMAppSettings::UseSettingsFile(QDir(blocker).filePath(QStringLiteral("s.ini")).toStdString());
+    return blocker;
 }
 
 } // namespace Lumeran::TestSupport

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QJsonObject>
 #include <QString>
+#include <QTemporaryDir>
 
 #include <string>
 #include <vector>
@@ -31,6 +32,15 @@ void WriteFile(const QString& path, const QByteArray& bytes);
 std::vector<std::string> CustomEntries(const ILMFmtPresetDataSource& source);
 // The titles of the recent entries, newest first.
 std::vector<std::string> RecentEntries(const ILMFmtPresetDataSource& source);
+
+// root with field key of preset `preset` of child `child` set to value.
+QJsonObject WithPresetField(QJsonObject root, int child, int preset, const QString& key,
+                            const QJsonValue& value);
+
+// Points the settings at a file in a folder of dir that cannot be made yet (a
+// file stands where the folder should be: no one, root included, can write
+// there). Returns the blocking file; remove it and make the folder to unblock.
+QString BlockSettingsFolder(const QTemporaryDir& dir);
 
 // Whether some file beside the current settings file keeps exactly value.
 bool BackupHoldsValue(const std::string& value);
