@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs every Debian package the build, the tests, the benchmarks and the
-# demo need. Safe to run again: packages already present are skipped, and the
-# package index is refreshed at most once per run.
+# demo need; with --fuzz, what the fuzz build needs on top (clang, libFuzzer and
+# llvm-symbolizer). Safe to run again: packages already present are skipped, and
+# the package index is refreshed at most once per run.
 set -euo pipefail
 
 packages=(
@@ -13,6 +14,9 @@ packages=(
   fonts-dejavu-core fonts-noto-core fonts-noto-cjk
   xauth xvfb
 )
+if [ "${1:-}" = "--fuzz" ]; then
+  packages=(clang libclang-rt-dev llvm)
+fi
 
 missing=()
 for pkg in "${packages[@]}"; do
