@@ -15,6 +15,7 @@
 #include "LMFuzzSupport.h"
 
 #include <QCoreApplication>
+#include <QDir>
 
 #include <cstddef>
 #include <cstdint>
@@ -35,6 +36,9 @@ std::string& SettingsPath() {
 // Writes both values into the settings file and makes the next read parse the
 // file again, as a new process would, rather than take the values from memory.
 void Store(const std::string& recent, const std::string& custom) {
+    // Each unreadable input is put aside beside the settings; those copies are
+    // the run's own and would otherwise pile up, one file per input.
+    QDir(QString::fromStdString(SettingsPath() + ".preset-backups")).removeRecursively();
     const auto settings = ILMAppSettings::Shared();
     settings->SetStringValue(recent, kRecentKey);
     settings->SetStringValue(custom, kCustomKey);
