@@ -7,7 +7,7 @@ WERROR ?= ON
 # How long `make fuzz` runs each fuzz target, in seconds.
 FUZZ_SECONDS ?= 60
 
-.PHONY: all deps deps-fuzz configure build test bench demo asan tsan fuzz clean format
+.PHONY: all deps deps-fuzz configure build test bench demo asan tsan fuzz clean format format-check
 
 all: build
 
@@ -82,3 +82,7 @@ clean:
 
 format:
 	git ls-files '*.h' '*.cpp' | xargs clang-format -i
+
+# Fails, naming the places, when a file is not as `make format` leaves it.
+format-check: deps
+	git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run --Werror

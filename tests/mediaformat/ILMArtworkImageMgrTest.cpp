@@ -84,7 +84,8 @@ TEST(ILMArtworkImageMgrTest, ImagesOutsideTheConfigurationFolderAreLeftOut) {
                             QByteArray(R"({"artwork":[
         {"faceId":1,"images":["../outside.svg"]},
         {"faceId":2,"images":["art/../../outside.svg"]},
-        {"faceId":3,"images":[")") + QByteArray::fromStdString(outside) + R"("]},
+        {"faceId":3,"images":[")") +
+                                QByteArray::fromStdString(outside) + R"("]},
         {"faceId":4,"images":["art/link.svg"]},
         {"faceId":5,"images":["art/in.svg"]}]})");
     const auto manager = ILMArtworkImageMgr::MallocArtworkImageMgr(path, nullptr);

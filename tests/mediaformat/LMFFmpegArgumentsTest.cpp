@@ -70,10 +70,10 @@ TEST(LMFFmpegArgumentsTest, JoinQuotesWhatAShellWouldSplit) {
 // program exactly the arguments that were joined.
 TEST(LMFFmpegArgumentsTest, JoinedArgumentsReachAProgramUnchangedThroughARealShell) {
     const std::vector<std::string> arguments = {
-        "-i",     "my file.mov", "it's",      "",           "line\nbreak", "tab\there",
-        "$HOME",  "`id`",        "$(id)",     "a;b",        "a&b|c",       "*.mov",
-        "~",      "X=1",         "back\\sl",  "\"quoted\"", "#hash",       "日本語.mp4",
-        "{a,b}",  "[ab]",        "!event",    "a>b<c",      "-c:v",        "scale=1280:720"};
+        "-i",    "my file.mov", "it's",     "",           "line\nbreak", "tab\there",
+        "$HOME", "`id`",        "$(id)",    "a;b",        "a&b|c",       "*.mov",
+        "~",     "X=1",         "back\\sl", "\"quoted\"", "#hash",       "日本語.mp4",
+        "{a,b}", "[ab]",        "!event",   "a>b<c",      "-c:v",        "scale=1280:720"};
     QProcess shell;
     shell.start(QStringLiteral("/bin/sh"),
                 {QStringLiteral("-c"),
