@@ -7,7 +7,7 @@ WERROR ?= ON
 # How long `make fuzz` runs each fuzz target, in seconds.
 FUZZ_SECONDS ?= 60
 
-.PHONY: all deps deps-fuzz configure build test bench demo asan tsan fuzz clean format format-check
+.PHONY: all deps deps-fuzz configure build test bench demo asan tsan fuzz clean format format-check test-whole
 
 all: build
 
@@ -25,6 +25,10 @@ build: configure
 
 test: build
 	cd $(BUILD_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j$(JOBS)
+
+# Every test program run whole, all cases in one process (ctest runs one per process).
+test-whole: build
+	bash scripts/run-test-programs.sh $(BUILD_DIR)
 
 bench: build
 	bash scripts/run-benchmarks.sh $(BUILD_DIR)

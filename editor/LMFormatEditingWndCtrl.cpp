@@ -1,5 +1,7 @@
 #include "LMFormatEditingWndCtrl.h"
 
+#include "LMSharedEditingWindow_p.h"
+
 #include "ILMFmtPresetDataSource.h"
 #include "ILMFormatNode.h"
 #include "ILMFormatPreset.h"
@@ -129,15 +131,32 @@ LMFormatEditingWndCtrl::LMFormatEditingWndCtrl(QWidget* parent)
 
 LMFormatEditingWndCtrl::~LMFormatEditingWndCtrl() = default;
 
-LMFormatEditingWndCtrl* LMFormatEditingWndCtrl::shared() {
+namespace {
+
+QPointer<LMFormatEditingWndCtrl>& SharedInstance() {
     static QPointer<LMFormatEditingWndCtrl> instance;
+    return instance;
+}
+
+} // namespace
+
+LMFormatEditingWndCtrl* LMFormatEditingWndCtrl::shared() {
+    QPointer<LMFormatEditingWndCtrl>& instance = SharedInstance();
     if (!instance) {
         instance = new LMFormatEditingWndCtrl;
         // A widget must go before the application object does; post routines
         // run at the start of the application object's destructor.
-        qAddPostRoutine([] { delete instance.data(); });
+        static const bool routineAdded = [] {
+            qAddPostRoutine([] { delete SharedInstance().data(); });
+            return true;
+        }();
+        (void)routineAdded;
     }
     return instance;
+}
+
+void Lumeran::LMSharedEditingWindow::ResetForTesting() {
+    delete SharedInstance().data();
 }
 
 LMFormatInternationalizationMgr* LMFormatEditingWndCtrl::lizationMgr() const {

@@ -1,5 +1,7 @@
 #include "LMFormatSelectionWndCtrl.h"
 
+#include "LMSharedSelectionWindow_p.h"
+
 #include "ILMArtworkImageGroupAdapter.h"
 #include "ILMArtworkImageMgr.h"
 #include "ILMFmtPresetDataSource.h"
@@ -17,6 +19,8 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QScreen>
+
+#include <utility>
 
 using Lumeran::ILMArtworkImageGroupAdapter;
 using Lumeran::ILMArtworkImageMgr;
@@ -62,13 +66,26 @@ QRect VisibleFrameFor(const QWidget* window, const QRectF& anchor) {
 
 } // namespace
 
-LMFormatSelectionWndCtrl* LMFormatSelectionWndCtrl::shared() {
-    static LMFormatSelectionWndCtrl* instance = [] {
-        auto* ctrl = new LMFormatSelectionWndCtrl();
-        ctrl->m_ui->tabHeaderView->setDelegate(ctrl);
-        return ctrl;
-    }();
+namespace {
+
+LMFormatSelectionWndCtrl*& SharedInstance() {
+    static LMFormatSelectionWndCtrl* instance = nullptr;
     return instance;
+}
+
+} // namespace
+
+LMFormatSelectionWndCtrl* LMFormatSelectionWndCtrl::shared() {
+    LMFormatSelectionWndCtrl*& instance = SharedInstance();
+    if (!instance) {
+        instance = new LMFormatSelectionWndCtrl();
+        instance->m_ui->tabHeaderView->setDelegate(instance);
+    }
+    return instance;
+}
+
+void Lumeran::LMSharedSelectionWindow::ResetForTesting() {
+    delete std::exchange(SharedInstance(), nullptr);
 }
 
 LMFormatSelectionWndCtrl::LMFormatSelectionWndCtrl()

@@ -8,6 +8,8 @@
 #include "LMDefaultCatalogue.h"
 #include "LME2EUser.h"
 #include "LMFormatInternationalizationMgr.h"
+#include "LMSharedEditingWindow_p.h"
+#include "LMSharedSelectionWindow_p.h"
 #include "LMUiTestSupport.h"
 
 #include <QAbstractItemView>
@@ -54,32 +56,24 @@ struct Completions {
     std::vector<Call> calls;
 };
 
-// The facade loads one catalogue per process (ctest runs each test in a process
-// of its own); a test that needs another one than an earlier test of the same
-// process loaded cannot run there.
-std::optional<std::string>& LoadedCatalogue() {
-    static std::optional<std::string> loaded;
-    return loaded;
-}
+// Each case starts as a new host process would: new windows (the editor first,
+// as the popup may be its delegate) and a new data source with nothing loaded.
+const bool g_windowsReset = [] {
+    TestSupport::ResetBeforeEachUiTest([] { LMSharedEditingWindow::ResetForTesting(); });
+    TestSupport::ResetBeforeEachUiTest([] { LMSharedSelectionWindow::ResetForTesting(); });
+    return true;
+}();
 
 bool SetupCatalogue(const std::string& path) {
-    if (LoadedCatalogue())
-        return *LoadedCatalogue() == path;
-    LoadedCatalogue() = path;
     auto popup = ILMMediaFormatPopup::Shared();
     popup->SetupExternalFormatData(path);
     popup->WaitForFormatDataLoadingComplete();
     return true;
 }
 
-// How often this process has shown the popup: it reopens on the tab and node
-// it had, so only its first showing opens where a fresh start does.
-int g_showings = 0;
-
 // Pops the selection up through the facade as a host's format button would and
 // waits for its tabs; nullptr when it did not show them.
 QWidget* OpenPopup(const std::shared_ptr<Completions>& completions, int tabs = kDefaultTabCount) {
-    ++g_showings;
     ILMMediaFormatPopup::Shared()->PopupSelection(
         ILMMediaFormatPopup::Rect{100.0f, 50.0f, 100.0f, 20.0f},
         [completions](auto preset, auto node) {
@@ -243,8 +237,6 @@ protected:
 } // namespace
 
 TEST_F(LMMediaFormatPopupE2ETest, AChoiceReachesTheHostOnceAndHeadsRecentInTheNextProcess) {
-    if (g_showings > 0)
-        GTEST_SKIP() << "this process has shown the popup already";
     ASSERT_TRUE(SetupCatalogue(LMDefaultCatalogue::Path()));
     auto completions = std::make_shared<Completions>();
     QWidget* popup = OpenPopup(completions);
@@ -406,8 +398,6 @@ TEST_F(LMMediaFormatPopupE2ETest, SavingAsANewPresetTwiceFilesTwoNumberedCustomP
 
 TEST_F(LMMediaFormatPopupE2ETest,
        WaitingBeforeSetupReturnsAtOnceAndAMissingCatalogueLeavesOnlyRecentAndCustom) {
-    if (LoadedCatalogue())
-        GTEST_SKIP() << "this process has loaded a catalogue already";
     // Nothing to wait for: the call returns (a wait on nothing would never end).
     ILMMediaFormatPopup::Shared()->WaitForFormatDataLoadingComplete();
 

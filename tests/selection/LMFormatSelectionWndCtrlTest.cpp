@@ -9,6 +9,8 @@
 #include "LMFormatEditingWndCtrl.h"
 #include "LMFormatInternationalizationMgr.h"
 #include "LMProgressIndicator.h"
+#include "LMSharedEditingWindow_p.h"
+#include "LMSharedSelectionWindow_p.h"
 #include "LMTabHeaderView.h"
 #include "LMUiTestSupport.h"
 
@@ -78,22 +80,22 @@ QString WriteTwoCategoryCatalogue(const QTemporaryDir& dir) {
     return path;
 }
 
-// The shared data source loads one catalogue per process; a test that needs a
-// particular one skips when another test of this process loaded a different one
-// (ctest runs every test in a process of its own, so there they always run).
-bool LoadCatalogueOnce(const std::string& path) {
-    static std::string loaded;
-    if (!loaded.empty())
-        return loaded == path;
-    loaded = path;
+bool LoadCatalogue(const std::string& path) {
     auto source = ILMFmtPresetDataSource::Shared();
     source->AsyncLoadExternalDataSource(path, {});
     source->WaitForLoadingComplete();
-    return true;
+    return source->GetExternalFormatPresets() != nullptr;
 }
 
-// Whether any test of this process has built the window's tabs yet.
-bool g_tabsBuilt = false;
+// Each case gets new windows; the editor goes first, as the popup may be its
+// delegate.
+const bool g_windowsReset = [] {
+    Lumeran::TestSupport::ResetBeforeEachUiTest(
+        [] { Lumeran::LMSharedEditingWindow::ResetForTesting(); });
+    Lumeran::TestSupport::ResetBeforeEachUiTest(
+        [] { Lumeran::LMSharedSelectionWindow::ResetForTesting(); });
+    return true;
+}();
 
 class LMFormatSelectionWndCtrlTest : public UiTest {
 protected:
@@ -112,14 +114,12 @@ protected:
     void LoadDefault() {
         TestSupport::LoadDefaultCatalogueIntoSharedDataSource();
         ctrl->loadExternalDataInMainThread();
-        g_tabsBuilt = true;
     }
 
     bool LoadTwoCategories() {
-        if (!LoadCatalogueOnce(WriteTwoCategoryCatalogue(dir).toStdString()))
+        if (!LoadCatalogue(WriteTwoCategoryCatalogue(dir).toStdString()))
             return false;
         ctrl->loadExternalDataInMainThread();
-        g_tabsBuilt = true;
         return true;
     }
 
@@ -229,8 +229,6 @@ TEST_F(LMFormatSelectionWndCtrlTest, PopupWiderThanTheVisibleFrameEndsRightAlign
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, UntilTheDataArrivesTheIndicatorSpinsAndSearchIsDisabled) {
-    if (g_tabsBuilt)
-        GTEST_SKIP() << "an earlier test of this process built the tabs";
     Popup();
     ASSERT_NE(ctrl->loadPrgInd(), nullptr);
     EXPECT_TRUE(ctrl->loadPrgInd()->isAnimating());
@@ -264,15 +262,13 @@ TEST_F(LMFormatSelectionWndCtrlTest, WithRecentEntriesThePopupOpensOnRecent) {
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, WithCategoriesAAndBTheStripReadsRecentABCustom) {
-    if (!LoadTwoCategories())
-        GTEST_SKIP() << "another catalogue was loaded by an earlier test of this process";
+    ASSERT_TRUE(LoadTwoCategories());
     EXPECT_EQ(TabTitles(), (QStringList{QStringLiteral("Recent"), QStringLiteral("A"),
                                         QStringLiteral("B"), QStringLiteral("Custom")}));
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, SearchingOnTheCustomTabSearchesTheCustomList) {
-    if (!LoadTwoCategories())
-        GTEST_SKIP() << "another catalogue was loaded by an earlier test of this process";
+    ASSERT_TRUE(LoadTwoCategories());
     auto source = ILMFmtPresetDataSource::Shared();
     auto mp4 = source->GetExternalFormatPresets()->ChildAt(0)->ChildAt(0);
     auto mine = mp4->FormatPresetAt(0)->Clone();
@@ -295,8 +291,7 @@ TEST_F(LMFormatSelectionWndCtrlTest, SearchingOnTheCustomTabSearchesTheCustomLis
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, SearchingFiltersOnlyTheSelectedTabsList) {
-    if (!LoadTwoCategories())
-        GTEST_SKIP() << "another catalogue was loaded by an earlier test of this process";
+    ASSERT_TRUE(LoadTwoCategories());
     Popup();
     ClickTab(1);
     QTest::keyClicks(ctrl->searchField(), QStringLiteral("720"));

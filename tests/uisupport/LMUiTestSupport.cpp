@@ -3,17 +3,35 @@
 #include "ILMFmtPresetDataSource.h"
 #include "LMDefaultCatalogue.h"
 #include "LMFormatInternationalizationMgr.h"
+#include "LMSharedDataSource_p.h"
 
 #include <QApplication>
 #include <QWidget>
 
+#include <functional>
+#include <vector>
+
 namespace Lumeran::TestSupport {
 
+namespace {
+
+std::vector<std::function<void()>>& Resets() {
+    static std::vector<std::function<void()>> resets;
+    return resets;
+}
+
+} // namespace
+
+void ResetBeforeEachUiTest(std::function<void()> reset) {
+    Resets().push_back(std::move(reset));
+}
+
 void LoadDefaultCatalogueIntoSharedDataSource() {
-    static bool loaded = false;
     auto source = ILMFmtPresetDataSource::Shared();
-    if (!loaded) {
-        loaded = true;
+    // Each test starts with a new shared data source (SetUp); it loads once.
+    static const ILMFmtPresetDataSource* loadedInto = nullptr;
+    if (loadedInto != source.get()) {
+        loadedInto = source.get();
         source->AsyncLoadExternalDataSource(LMDefaultCatalogue::Path(), {});
     }
     source->WaitForLoadingComplete();
@@ -31,6 +49,11 @@ void ClearSharedLists() {
 }
 
 void UiTest::SetUp() {
+    // Every case starts as in a process of its own: no windows, no catalogue and
+    // lists read from this case's settings.
+    for (const auto& reset : Resets())
+        reset();
+    LMSharedDataSource::ResetForTesting();
     ClearSharedLists();
     LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageEnglish);
 }
