@@ -32,16 +32,24 @@ void AppendQuality(std::vector<std::string>& out, const ILMCodecQualityPreset& q
     out.insert(out.end(), {flag, quality.Value()});
 }
 
-void AppendVideo(std::vector<std::string>& out, const LMFormatPreset& preset) {
-    const auto codec = preset.CurrentVideoCodec();
+// The stream's encoder and its fixed arguments. False when nothing more is to
+// be said of the stream: it is left out (-vn, -an) or FFmpeg picks the codec.
+bool AppendEncoder(std::vector<std::string>& out, const ILMCodecPreset* codec, bool audio) {
     if (!codec) {
-        out.emplace_back("-vn");
-        return;
+        out.emplace_back(audio ? "-an" : "-vn");
+        return false;
     }
     if (codec->IsAutoValue())
-        return;
-    out.insert(out.end(), {"-c:v", codec->Encoder()});
+        return false;
+    out.insert(out.end(), {audio ? "-c:a" : "-c:v", codec->Encoder()});
     Append(out, codec->EncoderArguments());
+    return true;
+}
+
+void AppendVideo(std::vector<std::string>& out, const LMFormatPreset& preset) {
+    const auto codec = preset.CurrentVideoCodec();
+    if (!AppendEncoder(out, codec.get(), false))
+        return;
     const auto& codecArgs = preset.Container().codecArgs;
     if (const auto found = codecArgs.find(codec->Id()); found != codecArgs.end())
         Append(out, found->second);
@@ -62,14 +70,8 @@ void AppendVideo(std::vector<std::string>& out, const LMFormatPreset& preset) {
 
 void AppendAudio(std::vector<std::string>& out, const LMFormatPreset& preset) {
     const auto codec = preset.CurrentAudioCodec();
-    if (!codec) {
-        out.emplace_back("-an");
+    if (!AppendEncoder(out, codec.get(), true))
         return;
-    }
-    if (codec->IsAutoValue())
-        return;
-    out.insert(out.end(), {"-c:a", codec->Encoder()});
-    Append(out, codec->EncoderArguments());
     if (const auto rate = codec->CurrentSamplerate(); rate && !rate->IsAutoValue())
         out.insert(out.end(), {"-ar", std::to_string(rate->Hertz())});
     if (const auto layout = codec->CurrentChannelLayout(); layout && !layout->IsAutoValue())

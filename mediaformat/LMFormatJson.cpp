@@ -299,6 +299,19 @@ QJsonObject StreamJson(const LMFormatPreset& preset, bool audio, int codec) {
     return object;
 }
 
+// What nodes and presets write alike: the title always, the description and
+// the face only when they are set.
+template <typename Item>
+QJsonObject TitledJson(const Item& item) {
+    QJsonObject object;
+    object.insert(Key("title"), QString::fromStdString(item.Title()));
+    if (!item.Description().empty())
+        object.insert(Key("description"), QString::fromStdString(item.Description()));
+    if (item.FaceID() != 0)
+        object.insert(Key("faceId"), item.FaceID());
+    return object;
+}
+
 // The readable entries of a list with the carried ones back in their places.
 template <typename Write>
 QJsonArray WithCarried(int count, const std::vector<LMFormatNode::Carried>& carried,
@@ -345,12 +358,7 @@ std::shared_ptr<ILMFormatNode> LMFormatJson::ReadNode(const QJsonValue& json,
 }
 
 QJsonObject LMFormatJson::WritePreset(const LMFormatPreset& preset) {
-    QJsonObject object;
-    object.insert(Key("title"), QString::fromStdString(preset.Title()));
-    if (!preset.Description().empty())
-        object.insert(Key("description"), QString::fromStdString(preset.Description()));
-    if (preset.FaceID() != 0)
-        object.insert(Key("faceId"), preset.FaceID());
+    QJsonObject object = TitledJson(preset);
     object.insert(Key("format"), QString::fromStdString(preset.FormatId()));
     QJsonArray other;
     for (const bool audio : {false, true}) {
@@ -384,12 +392,7 @@ QJsonObject LMFormatJson::WritePreset(const LMFormatPreset& preset) {
 }
 
 QJsonObject LMFormatJson::WriteNode(const LMFormatNode& node) {
-    QJsonObject object;
-    object.insert(Key("title"), QString::fromStdString(node.Title()));
-    if (!node.Description().empty())
-        object.insert(Key("description"), QString::fromStdString(node.Description()));
-    if (node.FaceID() != 0)
-        object.insert(Key("faceId"), node.FaceID());
+    QJsonObject object = TitledJson(node);
     const QJsonArray presets =
         WithCarried(node.FormatPresetCount(), node.CarriedPresets(), [&](int i) -> QJsonValue {
             const auto preset =

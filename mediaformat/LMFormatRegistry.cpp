@@ -119,84 +119,95 @@ std::string LowerAscii(std::string text) {
 class LMFormatRegistryLoader {
 public:
     static void Load(LMFormatRegistry& registry, const QJsonObject& root) {
-        const OptionTable resolutions =
-            ReadOptions(root.value(QLatin1StringView("resolutions")).toArray());
-        const OptionTable framerates =
-            ReadOptions(root.value(QLatin1StringView("framerates")).toArray());
-        const OptionTable samplerates =
-            ReadOptions(root.value(QLatin1StringView("samplerates")).toArray());
-        const OptionTable channels =
-            ReadOptions(root.value(QLatin1StringView("channelLayouts")).toArray());
+        const OptionTables options{
+            ReadOptions(root.value(QLatin1StringView("resolutions")).toArray()),
+            ReadOptions(root.value(QLatin1StringView("framerates")).toArray()),
+            ReadOptions(root.value(QLatin1StringView("samplerates")).toArray()),
+            ReadOptions(root.value(QLatin1StringView("channelLayouts")).toArray())};
 
-        std::unordered_map<std::string, const LMCodecInfo*> video;
-        std::unordered_map<std::string, const LMCodecInfo*> audio;
+        CodecTable video;
+        CodecTable audio;
         for (const bool isVideo : {true, false}) {
             const char* key = isVideo ? "videoCodecs" : "audioCodecs";
+            auto& table = isVideo ? video : audio;
             for (const QJsonValue& value : root.value(QLatin1StringView(key)).toArray()) {
-                const QJsonObject object = value.toObject();
-                auto codec = std::make_unique<LMCodecInfo>();
-                codec->id = Str(object, "id");
-                codec->name = Str(object, "name");
-                codec->encoder = Str(object, "encoder");
-                codec->streamCodec = Str(object, "stream");
-                codec->pixelFormat = Str(object, "pixelFormat", false);
-                codec->args = Strings(object, "args");
-                codec->video = isVideo;
-                codec->resolutions = Pick(resolutions, object, "resolutions");
-                codec->framerates = Pick(framerates, object, "framerates");
-                codec->samplerates = Pick(samplerates, object, "samplerates");
-                codec->channelLayouts = Pick(channels, object, "channels");
-                for (const QJsonValue& q : object.value(QLatin1StringView("qualities")).toArray()) {
-                    const QJsonObject quality = q.toObject();
-                    LMQualityPreset::Data data;
-                    data.name = Str(quality, "name");
-                    data.id = LowerAscii(data.name);
-                    data.kind = QualityKind(Str(quality, "kind"));
-                    data.value = Str(quality, "value");
-                    data.pixelFormat = Str(quality, "pixelFormat", false);
-                    codec->qualities.push_back(
-                        std::make_shared<const LMQualityPreset>(std::move(data)));
-                }
-                ReadDefaults(*codec, object.value(QLatin1StringView("defaults")).toObject());
-                auto& table = isVideo ? video : audio;
+                auto codec = ReadCodec(value.toObject(), options, isVideo);
                 if (!table.emplace(codec->id, codec.get()).second)
                     throw RegistryError("duplicate codec \"" + codec->id + "\"");
                 registry.m_codecs.push_back(std::move(codec));
             }
         }
 
-        for (const QJsonValue& value : root.value(QLatin1StringView("containers")).toArray()) {
-            const QJsonObject object = value.toObject();
-            auto container = std::make_unique<LMContainerInfo>();
-            container->id = Str(object, "id");
-            container->name = Str(object, "name");
-            container->muxer = Str(object, "muxer");
-            container->extension = Str(object, "extension");
-            container->args = Strings(object, "args");
-            for (const bool isVideo : {true, false}) {
-                const auto& table = isVideo ? video : audio;
-                for (const std::string& id : Strings(object, isVideo ? "video" : "audio")) {
-                    const auto found = table.find(id);
-                    if (found == table.end())
-                        throw RegistryError("container " + container->id + " lists unknown codec " +
-                                            id);
-                    (isVideo ? container->video : container->audio).push_back(found->second);
-                }
-            }
-            const QJsonObject codecArgs = object.value(QLatin1StringView("codecArgs")).toObject();
-            for (auto it = codecArgs.begin(); it != codecArgs.end(); ++it) {
-                std::vector<std::string> args;
-                for (const QJsonValue& arg : it.value().toArray())
-                    args.push_back(arg.toString().toStdString());
-                container->codecArgs.emplace(it.key().toStdString(), std::move(args));
-            }
-            registry.m_containers.push_back(std::move(container));
-        }
+        for (const QJsonValue& value : root.value(QLatin1StringView("containers")).toArray())
+            registry.m_containers.push_back(ReadContainer(value.toObject(), video, audio));
         if (registry.m_containers.empty())
             throw RegistryError("no containers");
     }
 
 private:
+    using CodecTable = std::unordered_map<std::string, const LMCodecInfo*>;
+    struct OptionTables {
+        OptionTable resolutions, framerates, samplerates, channels;
+    };
+
+    static std::unique_ptr<LMCodecInfo> ReadCodec(const QJsonObject& object,
+                                                  const OptionTables& options, bool isVideo) {
+        auto codec = std::make_unique<LMCodecInfo>();
+        codec->id = Str(object, "id");
+        codec->name = Str(object, "name");
+        codec->encoder = Str(object, "encoder");
+        codec->streamCodec = Str(object, "stream");
+        codec->pixelFormat = Str(object, "pixelFormat", false);
+        codec->args = Strings(object, "args");
+        codec->video = isVideo;
+        codec->resolutions = Pick(options.resolutions, object, "resolutions");
+        codec->framerates = Pick(options.framerates, object, "framerates");
+        codec->samplerates = Pick(options.samplerates, object, "samplerates");
+        codec->channelLayouts = Pick(options.channels, object, "channels");
+        for (const QJsonValue& q : object.value(QLatin1StringView("qualities")).toArray())
+            codec->qualities.push_back(ReadQuality(q.toObject()));
+        ReadDefaults(*codec, object.value(QLatin1StringView("defaults")).toObject());
+        return codec;
+    }
+
+    static std::shared_ptr<const LMQualityPreset> ReadQuality(const QJsonObject& quality) {
+        LMQualityPreset::Data data;
+        data.name = Str(quality, "name");
+        data.id = LowerAscii(data.name);
+        data.kind = QualityKind(Str(quality, "kind"));
+        data.value = Str(quality, "value");
+        data.pixelFormat = Str(quality, "pixelFormat", false);
+        return std::make_shared<const LMQualityPreset>(std::move(data));
+    }
+
+    static std::unique_ptr<LMContainerInfo>
+    ReadContainer(const QJsonObject& object, const CodecTable& video, const CodecTable& audio) {
+        auto container = std::make_unique<LMContainerInfo>();
+        container->id = Str(object, "id");
+        container->name = Str(object, "name");
+        container->muxer = Str(object, "muxer");
+        container->extension = Str(object, "extension");
+        container->args = Strings(object, "args");
+        for (const bool isVideo : {true, false}) {
+            const auto& table = isVideo ? video : audio;
+            for (const std::string& id : Strings(object, isVideo ? "video" : "audio")) {
+                const auto found = table.find(id);
+                if (found == table.end())
+                    throw RegistryError("container " + container->id + " lists unknown codec " +
+                                        id);
+                (isVideo ? container->video : container->audio).push_back(found->second);
+            }
+        }
+        const QJsonObject codecArgs = object.value(QLatin1StringView("codecArgs")).toObject();
+        for (auto it = codecArgs.begin(); it != codecArgs.end(); ++it) {
+            std::vector<std::string> args;
+            for (const QJsonValue& arg : it.value().toArray())
+                args.push_back(arg.toString().toStdString());
+            container->codecArgs.emplace(it.key().toStdString(), std::move(args));
+        }
+        return container;
+    }
+
     static void ReadDefaults(LMCodecInfo& codec, const QJsonObject& defaults) {
         static constexpr const char* keys[LMOptionListCount] = {
             "resolution", "framerate", "quality", "samplerate", "channels"};
