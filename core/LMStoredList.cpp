@@ -174,78 +174,102 @@ bool LMStoredList::Save(const std::shared_ptr<const ILMFormatNode>& tree,
         m_lastError = "nothing to save";
         return false;
     }
-    if (m_unpreserved && !Preserve(*m_unpreserved, "could not be read in full"))
+    if (!PreserveUnread()) {
         m_lastError = "no copy could be kept of the stored " + m_key + " that could not be read";
-    else
-        m_unpreserved.reset();
-    if (!m_lastError.empty()) {
-        ILMLogConfig::Printf("Not saving %s: %s", m_key.c_str(), m_lastError.c_str());
-        return false;
+        return Refuse();
     }
 
     const QJsonObject ours = JsonOf(tree);
-    std::optional<std::string> written;
-    QJsonObject writtenJson;
-    std::shared_ptr<ILMFormatNode> mergedTree;
+    Written written;
     const auto update =
         [&](const ILMAppSettings::Values& stored) -> std::optional<ILMAppSettings::Values> {
-        if (const auto stamp = stored.find(VersionKey);
-            stamp != stored.end() && MajorVersion(stamp->second) > Version) {
-            m_lastError = "the stored lists were written by a newer version (" + stamp->second +
-                          ") and are left as they are";
+        if (!MayOverwrite(stored))
             return std::nullopt;
-        }
         const auto found = stored.find(m_key);
         const std::optional<std::string> current = found == stored.end() || found->second.empty()
                                                        ? std::nullopt
                                                        : std::optional(found->second);
-        QJsonObject result = ours;
-        mergedTree.reset();
-        if (current != m_base && current) {
-            // Another process saved since we read: merge with what it stored.
-            const Reading theirs = Read(*current);
-            if (!theirs.complete && !Preserve(*current, "could not be read in full", false,
-                                              theirs.notUnderstoodParts)) {
-                m_lastError = "no copy could be kept of the stored " + m_key;
-                return std::nullopt;
-            }
-            const QJsonObject theirJson = JsonOf(theirs.tree);
-            result = m_kind == Kind::Recent
-                         ? LMStoredListMerge::MergeRecent(m_baseJson, theirJson, ours)
-                         : LMStoredListMerge::MergeCustom(m_baseJson, theirJson, ours);
-            LMFormatReadOptions options;
-            options.keepUnreadable = true;
-            mergedTree =
-                ILMFormatNode::MallocFormatNode(ILMJsonValue::MallocJsonValue(result), options);
-            if (!mergedTree) {
-                m_lastError = "the merged " + m_key + " could not be read back";
-                return std::nullopt;
-            }
-            result = JsonOf(mergedTree);
-        }
-        written = Encode(result);
-        if (!written) {
-            m_lastError = "the " + m_key + " is too large to be read back";
+        std::optional<Written> result = WriteOver(current, ours);
+        if (!result)
             return std::nullopt;
-        }
-        if (current && *current != *written && !m_backups.KeepReplaced(*current))
-            ILMLogConfig::Printf("No backup of the replaced %s could be written to %s",
-                                 m_key.c_str(), m_backups.Folder().c_str());
-        writtenJson = result;
-        return ILMAppSettings::Values{{m_key, *written}, {VersionKey, std::to_string(Version)}};
+        written = std::move(*result);
+        return ILMAppSettings::Values{{m_key, written.value},
+                                      {VersionKey, std::to_string(Version)}};
     };
     const bool ok = ILMAppSettings::Shared()->Transact({m_key, VersionKey}, update);
     if (!ok && m_lastError.empty())
         m_lastError = "the settings could not be written";
-    if (!ok || !m_lastError.empty()) {
-        ILMLogConfig::Printf("Not saving %s: %s", m_key.c_str(), m_lastError.c_str());
-        return false;
-    }
-    m_base = written;
-    m_baseJson = writtenJson;
+    if (!ok || !m_lastError.empty())
+        return Refuse();
+    m_base = written.value;
+    m_baseJson = written.json;
     if (merged)
-        *merged = std::move(mergedTree);
+        *merged = std::move(written.mergedTree);
     return true;
+}
+
+bool LMStoredList::Refuse() const {
+    ILMLogConfig::Printf("Not saving %s: %s", m_key.c_str(), m_lastError.c_str());
+    return false;
+}
+
+bool LMStoredList::PreserveUnread() {
+    if (m_unpreserved && !Preserve(*m_unpreserved, "could not be read in full"))
+        return false;
+    m_unpreserved.reset();
+    return true;
+}
+
+bool LMStoredList::MayOverwrite(const ILMAppSettings::Values& stored) {
+    const auto stamp = stored.find(VersionKey);
+    if (stamp == stored.end() || MajorVersion(stamp->second) <= Version)
+        return true;
+    m_lastError = "the stored lists were written by a newer version (" + stamp->second +
+                  ") and are left as they are";
+    return false;
+}
+
+std::optional<LMStoredList::Written>
+LMStoredList::WriteOver(const std::optional<std::string>& current, const QJsonObject& ours) {
+    Written result;
+    result.json = ours;
+    if (current != m_base && current) {
+        // Another process saved since we read: merge with what it stored.
+        result.mergedTree = MergeWith(*current, ours);
+        if (!result.mergedTree)
+            return std::nullopt;
+        result.json = JsonOf(result.mergedTree);
+    }
+    const std::optional<std::string> value = Encode(result.json);
+    if (!value) {
+        m_lastError = "the " + m_key + " is too large to be read back";
+        return std::nullopt;
+    }
+    result.value = *value;
+    if (current && *current != result.value && !m_backups.KeepReplaced(*current))
+        ILMLogConfig::Printf("No backup of the replaced %s could be written to %s", m_key.c_str(),
+                             m_backups.Folder().c_str());
+    return result;
+}
+
+std::shared_ptr<ILMFormatNode> LMStoredList::MergeWith(const std::string& current,
+                                                       const QJsonObject& ours) {
+    const Reading theirs = Read(current);
+    if (!theirs.complete &&
+        !Preserve(current, "could not be read in full", false, theirs.notUnderstoodParts)) {
+        m_lastError = "no copy could be kept of the stored " + m_key;
+        return {};
+    }
+    const QJsonObject theirJson = JsonOf(theirs.tree);
+    const QJsonObject merged = m_kind == Kind::Recent
+                                   ? LMStoredListMerge::MergeRecent(m_baseJson, theirJson, ours)
+                                   : LMStoredListMerge::MergeCustom(m_baseJson, theirJson, ours);
+    LMFormatReadOptions options;
+    options.keepUnreadable = true;
+    auto tree = ILMFormatNode::MallocFormatNode(ILMJsonValue::MallocJsonValue(merged), options);
+    if (!tree)
+        m_lastError = "the merged " + m_key + " could not be read back";
+    return tree;
 }
 
 std::vector<LMPresetBackup> LMStoredList::Backups() const {

@@ -2,6 +2,7 @@
 
 #include "LMCoreExport.h"
 
+#include "ILMAppSettings.h"
 #include "ILMFormatNode.h"
 #include "LMPresetBackup.h"
 #include "LMPresetBackupFolder.h"
@@ -70,6 +71,26 @@ private:
     bool Preserve(const std::string& value, const std::string& why, bool quiet = false,
                   const std::string& identity = {});
     std::optional<std::string> Encode(const QJsonObject& json);
+
+    // What one save writes: the Base64 value, its JSON, and the merged tree when
+    // another process's value was merged in.
+    struct Written {
+        std::string value;
+        QJsonObject json;
+        std::shared_ptr<ILMFormatNode> mergedTree;
+    };
+    // Logs why LastError() stopped a save; false.
+    bool Refuse() const;
+    // Puts aside a value read at load that could not be read in full, if that
+    // has not happened yet. Nothing is saved over it before it is.
+    bool PreserveUnread();
+    // False (with the reason) when a newer version wrote the stored lists.
+    bool MayOverwrite(const ILMAppSettings::Values& stored);
+    // What to write over current, the value stored now (merged when another
+    // process wrote it since this one read); empty with the reason on failure.
+    std::optional<Written> WriteOver(const std::optional<std::string>& current,
+                                     const QJsonObject& ours);
+    std::shared_ptr<ILMFormatNode> MergeWith(const std::string& current, const QJsonObject& ours);
 
     std::string m_key;
     Kind m_kind;
