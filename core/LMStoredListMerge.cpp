@@ -86,6 +86,76 @@ std::vector<QByteArray> CustomEntries(const QJsonObject& root) {
     return entries;
 }
 
+// Theirs, less what we removed, in their order.
+std::vector<QJsonValue> WithoutRemoved(const QJsonObject& theirs, Counts& removedByUs) {
+    std::vector<QJsonValue> children;
+    for (const QJsonValue& child : theirs.value(kChildren).toArray()) {
+        if (!IsGroup(child)) {
+            if (!Take(removedByUs, GroupEntryKey(QString(), child)))
+                children.push_back(child);
+            continue;
+        }
+        QJsonObject group = child.toObject();
+        const QString title = group.value(kTitle).toString();
+        QJsonArray presets;
+        for (const QJsonValue& preset : group.value(kPresets).toArray()) {
+            if (!Take(removedByUs, GroupEntryKey(title, preset)))
+                presets.append(preset);
+        }
+        group.insert(kPresets, presets);
+        children.push_back(group);
+    }
+    return children;
+}
+
+// Appends preset to the group titled like ourGroup, made (with ourGroup's other
+// fields) at the end when there is none.
+void AddToGroup(std::vector<QJsonValue>& children, const QJsonObject& ourGroup,
+                const QJsonValue& preset) {
+    const QString title = ourGroup.value(kTitle).toString();
+    auto group = std::find_if(children.begin(), children.end(), [&](const QJsonValue& g) {
+        return IsGroup(g) && g.toObject().value(kTitle).toString() == title;
+    });
+    if (group == children.end()) {
+        QJsonObject fresh = ourGroup;
+        fresh.insert(kPresets, QJsonArray());
+        children.push_back(fresh);
+        group = children.end() - 1;
+    }
+    QJsonObject updated = group->toObject();
+    QJsonArray presets = updated.value(kPresets).toArray();
+    presets.append(preset);
+    updated.insert(kPresets, presets);
+    *group = updated;
+}
+
+// Plus what we added, in our order.
+void AddOurs(std::vector<QJsonValue>& children, const QJsonObject& ours, Counts& addedByUs) {
+    for (const QJsonValue& child : ours.value(kChildren).toArray()) {
+        if (!IsGroup(child)) {
+            if (Take(addedByUs, GroupEntryKey(QString(), child)))
+                children.push_back(child);
+            continue;
+        }
+        const QJsonObject ourGroup = child.toObject();
+        const QString title = ourGroup.value(kTitle).toString();
+        for (const QJsonValue& preset : ourGroup.value(kPresets).toArray()) {
+            if (Take(addedByUs, GroupEntryKey(title, preset)))
+                AddToGroup(children, ourGroup, preset);
+        }
+    }
+}
+
+// A group whose presets are all gone disappears, as it does in memory.
+QJsonArray WithoutEmptyGroups(const std::vector<QJsonValue>& children) {
+    QJsonArray result;
+    for (const QJsonValue& child : children) {
+        if (!IsGroup(child) || !child.toObject().value(kPresets).toArray().isEmpty())
+            result.append(child);
+    }
+    return result;
+}
+
 } // namespace
 
 QJsonObject LMStoredListMerge::MergeRecent(const QJsonObject& base, const QJsonObject& theirs,
@@ -122,65 +192,9 @@ QJsonObject LMStoredListMerge::MergeCustom(const QJsonObject& base, const QJsonO
     const std::vector<QByteArray> ourEntries = CustomEntries(ours);
     Counts removedByUs = Minus(baseEntries, ourEntries);
     Counts addedByUs = Minus(ourEntries, baseEntries);
-
-    // Theirs, less what we removed, in their order.
-    std::vector<QJsonValue> children;
-    for (const QJsonValue& child : theirs.value(kChildren).toArray()) {
-        if (!IsGroup(child)) {
-            if (!Take(removedByUs, GroupEntryKey(QString(), child)))
-                children.push_back(child);
-            continue;
-        }
-        QJsonObject group = child.toObject();
-        const QString title = group.value(kTitle).toString();
-        QJsonArray presets;
-        for (const QJsonValue& preset : group.value(kPresets).toArray()) {
-            if (!Take(removedByUs, GroupEntryKey(title, preset)))
-                presets.append(preset);
-        }
-        group.insert(kPresets, presets);
-        children.push_back(group);
-    }
-    // Plus what we added, in our order.
-    for (const QJsonValue& child : ours.value(kChildren).toArray()) {
-        if (!IsGroup(child)) {
-            if (Take(addedByUs, GroupEntryKey(QString(), child)))
-                children.push_back(child);
-            continue;
-        }
-        const QJsonObject ourGroup = child.toObject();
-        const QString title = ourGroup.value(kTitle).toString();
-        for (const QJsonValue& preset : ourGroup.value(kPresets).toArray()) {
-            if (!Take(addedByUs, GroupEntryKey(title, preset)))
-                continue;
-            auto group = std::find_if(children.begin(), children.end(), [&](const QJsonValue& g) {
-                return IsGroup(g) && g.toObject().value(kTitle).toString() == title;
-            });
-            if (group == children.end()) {
-                QJsonObject fresh = ourGroup;
-                fresh.insert(kPresets, QJsonArray());
-                children.push_back(fresh);
-                group = children.end() - 1;
-            }
-            QJsonObject updated = group->toObject();
-            QJsonArray presets = updated.value(kPresets).toArray();
-            presets.append(preset);
-            updated.insert(kPresets, presets);
-            *group = updated;
-        }
-    }
-    QJsonArray result;
-    for (const QJsonValue& child : children) {
-        if (!IsGroup(child)) {
-            result.append(child);
-            continue;
-        }
-        // A group whose presets are all gone disappears, as it does in memory.
-        const QJsonArray presets = child.toObject().value(kPresets).toArray();
-        if (!presets.isEmpty())
-            result.append(child);
-    }
-    return WithList(ours, kChildren, result);
+    std::vector<QJsonValue> children = WithoutRemoved(theirs, removedByUs);
+    AddOurs(children, ours, addedByUs);
+    return WithList(ours, kChildren, WithoutEmptyGroups(children));
 }
 
 } // namespace Lumeran
