@@ -85,7 +85,17 @@ LMFmtPresetDataSource::LMFmtPresetDataSource()
         m_customRoot = MakeDefaultCustomNode();
 }
 
-LMFmtPresetDataSource::~LMFmtPresetDataSource() = default;
+// A source that goes away during a load stops it and never calls its completion
+// (which may refer to what the host tears down with the source). The loader
+// holds nothing of the source, so it is left to finish on its own.
+LMFmtPresetDataSource::~LMFmtPresetDataSource() {
+    if (m_load) {
+        const std::lock_guard lock(m_load->completing);
+        m_load->cancel = true;
+    }
+    if (m_loader.joinable())
+        m_loader.detach();
+}
 
 // ---- External data ---------------------------------------------------------------
 
@@ -95,17 +105,24 @@ void LMFmtPresetDataSource::AsyncLoadExternalDataSource(const std::string& path,
         ILMFileProvider::AppendPathExtension(ILMFileProvider::RemovePathExtension(path), "icfg");
     m_artworkMgr = ILMArtworkImageMgr::MallocArtworkImageMgr(artworkPath, nullptr);
     auto load = std::make_shared<LMLoaderExitGuard::Load>();
-    m_pending = std::async(std::launch::async, [path, load] {
-                    return LoadExternalTree(path, load->cancel);
-                }).share();
-    m_loader = std::thread([pending = m_pending, load, completion = std::move(completion)] {
+    // A second load replaces the first; the first still finishes and reports.
+    if (m_loader.joinable())
+        m_loader.detach();
+    m_load = load;
+    // Everything below works on its own copy of the future: a completion may
+    // collect the tree, and with it m_pending, before this call returns.
+    const auto pending = std::async(std::launch::async, [path, load] {
+                             return LoadExternalTree(path, load->cancel);
+                         }).share();
+    m_pending = pending;
+    LMLoaderExitGuard::Watch(load, [pending](std::chrono::milliseconds timeout) {
+        return pending.wait_for(timeout) == std::future_status::ready;
+    });
+    m_loader = std::thread([pending, load, completion = std::move(completion)] {
         pending.wait();
         const std::lock_guard lock(load->completing);
         if (completion && !load->cancel)
             completion();
-    });
-    LMLoaderExitGuard::Watch(load, [pending = m_pending](std::chrono::milliseconds timeout) {
-        return pending.wait_for(timeout) == std::future_status::ready;
     });
 }
 

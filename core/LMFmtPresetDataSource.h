@@ -3,6 +3,7 @@
 #include "ILMArtworkImageMgr.h"
 #include "ILMFmtPresetDataSource.h"
 #include "LMCoreExport.h"
+#include "LMLoaderExitGuard.h"
 
 #include <atomic>
 #include <future>
@@ -88,6 +89,7 @@ private:
     // on that same object is a data race (and may free the state under it).
     std::shared_future<std::shared_ptr<ILMFormatNode>> m_pending;
     std::thread m_loader;
+    std::shared_ptr<LMLoaderExitGuard::Load> m_load;
 
     // How each list is kept in the settings, and what the last saves did.
     std::unique_ptr<LMStoredList> m_recentStore;

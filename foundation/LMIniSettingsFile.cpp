@@ -1,5 +1,7 @@
 #include "LMIniSettingsFile.h"
 
+#include <algorithm>
+
 #include "ILMFileProvider.h"
 
 #include <QDir>
@@ -395,35 +397,43 @@ bool LMIniSettingsFile::Write(const std::vector<std::string>& keys, const Update
     std::string why;
     if (!Read(&why))
         return fail(why + "; it is left as it is");
-    Values current;
-    for (const std::string& key : keys) {
-        for (auto it = m_entries.rbegin(); it != m_entries.rend(); ++it) {
-            if (it->key == key) {
-                current.emplace(key, it->value);
-                break;
-            }
-        }
-    }
-    const std::optional<Values> next = update(current);
+    const std::optional<Values> next = update(CurrentValues(keys));
     if (!next)
         return false;
     for (const auto& [key, value] : *next)
         Set(key, value);
-    const std::string text = Compose();
-    QSaveFile file(path);
-    file.setDirectWriteFallback(false);
-    const bool written = file.open(QIODevice::WriteOnly) &&
-                         file.write(text.data(), static_cast<qint64>(text.size())) ==
-                             static_cast<qint64>(text.size()) &&
-                         file.commit();
-    if (!written) {
-        const std::string message =
-            "cannot write " + m_path + ": " + file.errorString().toStdString();
+    if (!Commit(&why)) {
         Read(nullptr); // what is on disk, not what failed to get there
-        return fail(message);
+        return fail(why);
     }
     m_seen = Stat();
     return true;
+}
+
+LMIniSettingsFile::Values
+LMIniSettingsFile::CurrentValues(const std::vector<std::string>& keys) const {
+    Values current;
+    for (const std::string& key : keys) {
+        // The last line of a key is the one QSettings reads.
+        const auto last = std::find_if(m_entries.rbegin(), m_entries.rend(),
+                                       [&](const Entry& entry) { return entry.key == key; });
+        if (last != m_entries.rend())
+            current.emplace(key, last->value);
+    }
+    return current;
+}
+
+bool LMIniSettingsFile::Commit(std::string* error) const {
+    const std::string text = Compose();
+    QSaveFile file(QString::fromStdString(m_path));
+    file.setDirectWriteFallback(false);
+    if (file.open(QIODevice::WriteOnly) &&
+        file.write(text.data(), static_cast<qint64>(text.size())) ==
+            static_cast<qint64>(text.size()) &&
+        file.commit())
+        return true;
+    *error = "cannot write " + m_path + ": " + file.errorString().toStdString();
+    return false;
 }
 
 } // namespace Lumeran

@@ -64,6 +64,10 @@ private:
     std::string Compose() const;
     void Set(const std::string& key, const std::string& value);
     std::size_t InsertionLine(const std::string& section, bool* newSection) const;
+    // The values of keys as the file holds them now; absent keys left out.
+    Values CurrentValues(const std::vector<std::string>& keys) const;
+    // Replaces the file with what this object holds, atomically.
+    bool Commit(std::string* error) const;
     Signature Stat() const;
 
     std::string m_path;

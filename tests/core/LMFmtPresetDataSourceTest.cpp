@@ -139,6 +139,38 @@ TEST_F(LMFmtPresetDataSourceTest, FreshInstallationProposesTheDefaultMp4Entry) {
     EXPECT_EQ(ILMFormatNode::FirstFormatPreset(current->FormatNode()), current->FormatPreset());
 }
 
+TEST_F(LMFmtPresetDataSourceTest, ASourceDestroyedDuringALoadNeverCallsItsCompletion) {
+    auto gate = std::make_unique<LoadGate>();
+    ASSERT_TRUE(gate->IsValid());
+    auto completion = std::make_shared<Completion>();
+    {
+        const auto source = MakeSource();
+        source->AsyncLoadExternalDataSource(gate->Path(), completion->Callback());
+    }
+    // The load is still held at the gate when its source goes; once released it
+    // finishes on its own and reports to nobody.
+    ASSERT_TRUE(gate->Release(DefaultCatalogueText()));
+    EXPECT_FALSE(completion->WaitFor(std::chrono::seconds(2)));
+    EXPECT_EQ(completion->calls.load(), 0);
+}
+
+TEST_F(LMFmtPresetDataSourceTest, ASecondLoadStartedBeforeTheFirstEndsLetsBothComplete) {
+    LoadGate first(QStringLiteral("first"));
+    LoadGate second(QStringLiteral("second"));
+    ASSERT_TRUE(first.IsValid() && second.IsValid());
+    const auto source = MakeSource();
+    Completion firstDone;
+    Completion secondDone;
+    source->AsyncLoadExternalDataSource(first.Path(), firstDone.Callback());
+    source->AsyncLoadExternalDataSource(second.Path(), secondDone.Callback());
+    ASSERT_TRUE(first.Release(DefaultCatalogueText()));
+    ASSERT_TRUE(second.Release(DefaultCatalogueText()));
+    EXPECT_TRUE(firstDone.WaitFor(std::chrono::seconds(30)));
+    EXPECT_TRUE(secondDone.WaitFor(std::chrono::seconds(30)));
+    source->WaitForLoadingComplete();
+    EXPECT_TRUE(source->GetExternalFormatPresets());
+}
+
 TEST_F(LMFmtPresetDataSourceTest, GetCurrentPresetIsTheNewestRecentEntryOnceThereIsOne) {
     const auto source = MakeSource();
     source->PushRecentItem(Entry("MKV"));
