@@ -1,6 +1,7 @@
 #include "LMFormatInternationalizationMgr.h"
 
 #include "ILMAppSettings.h"
+#include "LMLocalizableStrings.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -8,6 +9,7 @@
 #include <QTranslator>
 
 #include <array>
+#include <map>
 #include <utility>
 
 // The tables are compiled into this library as Qt resources. A shared library
@@ -22,7 +24,6 @@ namespace {
 
 const char kSystemLanguageKey[] = "DB_C_SysLanguage";
 const char kSystemLanguageContext[] = "LMMediaFormatPopup";
-const char kTableContext[] = "Localizable";
 const char kUserLanguageKey[] = "LMFormatUserLanguageKey";
 const char kEnglishCode[] = "en";
 const char kTableFile[] = "Localizable.qm";
@@ -49,8 +50,36 @@ const std::array<LanguageRow, 8>& languageTable() {
 
 } // namespace
 
+struct LMFormatInternationalizationMgr::Private {
+    // The compiled table of a language folder, loaded on first use; null when the
+    // folder is missing or holds no readable table.
+    const QTranslator* tableOfBundle(const QString& bundle);
+
+    QStringList allKey;
+    // Loaded tables by folder. A folder's table never changes while the process
+    // runs, so loading it once is enough; which folder is current is not kept.
+    std::map<QString, std::unique_ptr<QTranslator>> tables;
+};
+
+const QTranslator* LMFormatInternationalizationMgr::Private::tableOfBundle(const QString& bundle) {
+    if (bundle.isEmpty())
+        return nullptr;
+    const auto found = tables.find(bundle);
+    if (found != tables.end())
+        return found->second.get();
+    auto table = std::make_unique<QTranslator>();
+    // A folder without a readable table is treated like a missing folder: there
+    // is nothing to look up in it.
+    if (!QFileInfo(bundle).isDir() ||
+        !table->load(bundle + QLatin1Char('/') + QLatin1String(kTableFile)))
+        table.reset();
+    const QTranslator* result = table.get();
+    tables.emplace(bundle, std::move(table));
+    return result;
+}
+
 LMFormatInternationalizationMgr::LMFormatInternationalizationMgr(QObject* parent)
-    : QObject(parent) {
+    : QObject(parent), d(std::make_unique<Private>()) {
     initLocalizationResources();
     setUpAllKey();
 }
@@ -71,7 +100,7 @@ QString LMFormatInternationalizationMgr::systemLanguageContext() {
 }
 
 QString LMFormatInternationalizationMgr::tableContext() {
-    return QString::fromLatin1(kTableContext);
+    return QString::fromLatin1(LMLocalizableStrings::context);
 }
 
 QString LMFormatInternationalizationMgr::frameworkBundle() {
@@ -79,70 +108,16 @@ QString LMFormatInternationalizationMgr::frameworkBundle() {
 }
 
 void LMFormatInternationalizationMgr::setUpAllKey() {
-    // The two audio format descriptions stand in the list twice on purpose: they
-    // get two change notices each, and bindings rely on nothing else.
-    m_allKey = QStringList{
-        QStringLiteral("Video"),
-        QStringLiteral("Audio"),
-        QStringLiteral("Encoder"),
-        QStringLiteral("Resolution"),
-        QStringLiteral("FrameRate"),
-        QStringLiteral("Quality"),
-        QStringLiteral("Sample Rate"),
-        QStringLiteral("Channel"),
-        QStringLiteral("Save as New Preset"),
-        QStringLiteral("Save"),
-        QStringLiteral("preset name"),
-        QStringLiteral("Recent"),
-        QStringLiteral("Device"),
-        QStringLiteral("Web Video"),
-        QStringLiteral("Custom"),
-        QStringLiteral("Search"),
-        QStringLiteral("Same as source"),
-        QStringLiteral("Auto"),
-        QStringLiteral("High Quality"),
-        QStringLiteral("Medium Quality"),
-        QStringLiteral("Low Quality"),
-        QStringLiteral("Settings"),
-        QStringLiteral("customSave"),
-        QStringLiteral("Reset"),
-        QStringLiteral("Cancel"),
-        QStringLiteral("High"),
-        QStringLiteral("Medium"),
-        QStringLiteral("Low"),
-        QStringLiteral("Best"),
-        QStringLiteral("MP4 file format"),
-        QStringLiteral("MP4 file format with HEVC"),
-        QStringLiteral("MOV file format with Apple ProRes"),
-        QStringLiteral("MP4 file format for iTunes"),
-        QStringLiteral("Matroska file format"),
-        QStringLiteral("Matroska file format with HEVC"),
-        QStringLiteral("Audiovisual Media file format"),
-        QStringLiteral("AVI file format with XVID"),
-        QStringLiteral("AVI file format with DIVX"),
-        QStringLiteral("MXF file format with DNxHD"),
-        QStringLiteral("MXF file format with Apple ProRes"),
-        QStringLiteral("MPEG File format for VCD"),
-        QStringLiteral("MPEG file format for SVCD"),
-        QStringLiteral("MPEG file format for DVD - Video"),
-        QStringLiteral("3GPP2 file format"),
-        QStringLiteral("3GPP file format"),
-        QStringLiteral("Waveform Audio File Format"),
-        QStringLiteral("Audio Interchange File Format"),
-        QStringLiteral("Simple Audio File Format"),
-        QStringLiteral("Audio Interchange File Format"),
-        QStringLiteral("Simple Audio File Format"),
-        QStringLiteral("Matroska Audio File Format"),
-    };
+    d->allKey = LMLocalizableStrings::boundKeyList();
 }
 
 QStringList LMFormatInternationalizationMgr::allKey() const {
-    return m_allKey;
+    return d->allKey;
 }
 
 void LMFormatInternationalizationMgr::allKeyChange() {
     // Copied first: a receiver may call setUpAllKey() while the notices go out.
-    const QStringList keys = m_allKey;
+    const QStringList keys = d->allKey;
     for (const QString& key : keys)
         Q_EMIT valueChanged(key);
 }
@@ -225,10 +200,10 @@ QString LMFormatInternationalizationMgr::classStringForKey(const QString& key) {
 
 QString LMFormatInternationalizationMgr::stringForKeyInBundle(const QString& key,
                                                               const QString& bundle) const {
-    const QTranslator* table = tableOfBundle(bundle);
+    const QTranslator* table = d->tableOfBundle(bundle);
     if (!table)
         return QString();
-    const QString text = table->translate(kTableContext, key.toUtf8().constData());
+    const QString text = table->translate(LMLocalizableStrings::context, key.toUtf8().constData());
     if (text.isNull())
         return key;
     return text;
@@ -244,21 +219,4 @@ QVariant LMFormatInternationalizationMgr::valueForKey(const QString& key) const 
 
 QVariant LMFormatInternationalizationMgr::valueForUndefinedKey(const QString& key) const {
     return stringForKey(key);
-}
-
-const QTranslator* LMFormatInternationalizationMgr::tableOfBundle(const QString& bundle) const {
-    if (bundle.isEmpty())
-        return nullptr;
-    const auto found = m_tables.find(bundle);
-    if (found != m_tables.end())
-        return found->second.get();
-    auto table = std::make_unique<QTranslator>();
-    // A folder without a readable table is treated like a missing folder: there
-    // is nothing to look up in it.
-    if (!QFileInfo(bundle).isDir() ||
-        !table->load(bundle + QLatin1Char('/') + QLatin1String(kTableFile)))
-        table.reset();
-    const QTranslator* result = table.get();
-    m_tables.emplace(bundle, std::move(table));
-    return result;
 }

@@ -7,10 +7,7 @@
 #include <QStringList>
 #include <QVariant>
 
-#include <map>
 #include <memory>
-
-class QTranslator;
 
 // Display names of the languages the popup can be shown in. A host passes one of
 // them to LMFormatInternationalizationMgr::setLanguage().
@@ -127,10 +124,7 @@ Q_SIGNALS:
 
 private:
     QVariant valueForUndefinedKey(const QString& key) const;
-    const QTranslator* tableOfBundle(const QString& bundle) const;
 
-    QStringList m_allKey;
-    // Loaded tables by folder. A folder's table never changes while the process
-    // runs, so loading it once is enough; which folder is current is not kept.
-    mutable std::map<QString, std::unique_ptr<QTranslator>> m_tables;
+    struct Private;
+    std::unique_ptr<Private> d;
 };

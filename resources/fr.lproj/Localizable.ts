@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>customSave</source>
-        <translation>Saisissez un nom pour le nouveau préréglage :</translation>
+        <translation>Saisissez un nom pour le nouveau préréglage&#xa0;:</translation>
     </message>
     <message>
         <source>Reset</source>

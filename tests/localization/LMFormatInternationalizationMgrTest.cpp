@@ -1,9 +1,11 @@
 #include "LMFormatInternationalizationMgr.h"
 
 #include "ILMAppSettings.h"
+#include "LMLocalizableStrings.h"
 #include "LMTestEnvironment.h"
 
 #include <QCoreApplication>
+#include <QDirIterator>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -108,43 +110,32 @@ TsTable readTsTable(const QString& code) {
     return result;
 }
 
-// Words the popup and the editor show besides the keys of allKey.
-const QStringList kInterfaceWords{
-    QStringLiteral("Search"),
-    QStringLiteral("Settings"),
-    QStringLiteral("Reset"),
-    QStringLiteral("Cancel"),
-    QStringLiteral("Save"),
-    QStringLiteral("Save as New Preset"),
-    QStringLiteral("Edit"),
-    QStringLiteral("Remove"),
-    QStringLiteral("Loading formats…"),
-    QStringLiteral("No matching presets"),
-    QStringLiteral("Choose a format"),
-    QStringLiteral("Format"),
-    QStringLiteral("Recent Selection"),
-    QStringLiteral("Custom Preset"),
-    QStringLiteral("MP4 Format"),
-    QStringLiteral("Mono"),
-    QStringLiteral("Stereo"),
-    QStringLiteral("5.1 Surround"),
-    QStringLiteral("Lossless"),
-    QStringLiteral("Smartphone"),
-    QStringLiteral("Tablet"),
-    QStringLiteral("Television"),
-    QStringLiteral("Game Console"),
-    QStringLiteral("Basic Phone"),
-    QStringLiteral("DVD Player"),
-    QStringLiteral("Video Sharing"),
-    QStringLiteral("Social Square"),
-    QStringLiteral("Vertical Video"),
-    QStringLiteral("WebM file format"),
-    QStringLiteral("MP3 file format"),
-    QStringLiteral("M4A file format with AAC"),
-    QStringLiteral("FLAC file format"),
-    QStringLiteral("Square 1080p"),
-    QStringLiteral("Vertical 1080p"),
-};
+// The keys every table must hold: those marked for lupdate.
+QSet<QString> markedKeys() {
+    const QStringList keys = LMLocalizableStrings::keyList();
+    return QSet<QString>(keys.begin(), keys.end());
+}
+
+// Keys the interface passes to stringForKey() as literals, in the sources of the
+// folders that show texts.
+QSet<QString> literalKeysOfTheInterface() {
+    static const QRegularExpression lookup(
+        QStringLiteral(R"re(stringForKey\(\s*QStringLiteral\("([^"]+)"\)\s*\))re"));
+    QSet<QString> keys;
+    for (const char* folder : {"lists", "editor", "selection"}) {
+        QDirIterator files(QString::fromStdString(TestSupport::SourcePath(folder)),
+                           {QStringLiteral("*.cpp")}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            if (!file.open(QIODevice::ReadOnly))
+                continue;
+            const QString text = QString::fromUtf8(file.readAll());
+            for (const QRegularExpressionMatch& match : lookup.globalMatch(text))
+                keys.insert(match.captured(1));
+        }
+    }
+    return keys;
+}
 
 // Every title and description of a catalogue node, its presets and its children.
 void collectCatalogueTexts(const QJsonObject& node, QStringList& texts) {
@@ -522,14 +513,46 @@ TEST(LMFormatLocalizationTables, EveryKeyOfAllKeyHasAnEntryInEveryTable) {
     }
 }
 
-TEST(LMFormatLocalizationTables, EveryInterfaceWordHasAnEntryInEveryTable) {
+TEST(LMFormatLocalizationTables, EveryMarkedKeyHasAnEntryInEveryTable) {
+    const QStringList keys = LMLocalizableStrings::keyList();
+    ASSERT_GE(keys.size(), 49);
     for (const QString& code : kLanguageCodes) {
         const auto table = loadTable(code);
         ASSERT_NE(table, nullptr) << code.toStdString();
-        for (const QString& word : kInterfaceWords) {
-            EXPECT_FALSE(table->translate("Localizable", word.toUtf8().constData()).isEmpty())
-                << code.toStdString() << ": " << word.toStdString();
+        for (const QString& key : keys) {
+            EXPECT_FALSE(
+                table->translate(LMLocalizableStrings::context, key.toUtf8().constData()).isEmpty())
+                << code.toStdString() << ": " << key.toStdString();
         }
+    }
+}
+
+TEST(LMFormatLocalizationTables, TablesHoldExactlyTheMarkedKeys) {
+    const QSet<QString> marked = markedKeys();
+    for (const QString& code : kLanguageCodes) {
+        const TsTable table = readTsTable(code);
+        ASSERT_TRUE(table.readable) << code.toStdString();
+        const QSet<QString> sources(table.sources.begin(), table.sources.end());
+        for (const QString& key : marked - sources)
+            ADD_FAILURE() << code.toStdString() << " lacks the marked key \"" << key.toStdString()
+                          << "\": run the update_translations target and translate it";
+        for (const QString& source : sources - marked)
+            ADD_FAILURE() << code.toStdString() << " holds \"" << source.toStdString()
+                          << "\", which is no longer a marked key: run update_translations";
+    }
+}
+
+TEST(LMFormatLocalizationTables, EveryKeyTheInterfaceLooksUpByNameIsMarked) {
+    const QSet<QString> literal = literalKeysOfTheInterface();
+    // The popup's search field, its title and the editor's name prompt at least.
+    ASSERT_TRUE(literal.contains(QStringLiteral("Search")));
+    ASSERT_TRUE(literal.contains(QStringLiteral("Choose a format")));
+    ASSERT_TRUE(literal.contains(QStringLiteral("preset name")));
+    const QSet<QString> marked = markedKeys();
+    for (const QString& key : literal) {
+        EXPECT_TRUE(marked.contains(key))
+            << "\"" << key.toStdString()
+            << "\" is looked up but not marked in localization/LMLocalizableStrings.h";
     }
 }
 
@@ -586,7 +609,8 @@ TEST(LMFormatLocalizationTables, EveryWordOrPhraseOfTheDefaultCatalogueHasAnEntr
                 continue;
             EXPECT_FALSE(table->translate("Localizable", text.toUtf8().constData()).isEmpty())
                 << code.toStdString() << " lacks the catalogue text \"" << text.toStdString()
-                << "\": add it to resources/*.lproj/Localizable.ts";
+                << "\": mark it in localization/LMLocalizableStrings.h and run "
+                   "update_translations";
         }
     }
 }

@@ -1,0 +1,140 @@
+#pragma once
+
+#include <QStringList>
+#include <QtGlobal>
+
+#include <array>
+
+// Every key of the framework's string tables, marked for lupdate in the one
+// context of the tables. `cmake --build <build> --target update_translations`
+// brings resources/<code>.lproj/Localizable.ts in line with this list: a key
+// added here appears in every table as unfinished, a key removed here leaves
+// them. A text the popup shows is looked up by its key, so a key missing from
+// this list shows untranslated.
+//
+// Header only: the manager builds its allKey list from it, and the tests compare
+// the tables against it without linking anything.
+class LMLocalizableStrings {
+public:
+    // The context of every message in the tables.
+    static constexpr char context[] = "Localizable";
+
+    // The keys whose bound values follow a change of language, in the order their
+    // change notices go out. "Audio Interchange File Format" and "Simple Audio
+    // File Format" stand here twice on purpose: each gets two notices.
+    static constexpr std::array<const char*, 51> boundKeys{
+        QT_TRANSLATE_NOOP("Localizable", "Video"),
+        QT_TRANSLATE_NOOP("Localizable", "Audio"),
+        QT_TRANSLATE_NOOP("Localizable", "Encoder"),
+        QT_TRANSLATE_NOOP("Localizable", "Resolution"),
+        QT_TRANSLATE_NOOP("Localizable", "FrameRate"),
+        QT_TRANSLATE_NOOP("Localizable", "Quality"),
+        QT_TRANSLATE_NOOP("Localizable", "Sample Rate"),
+        QT_TRANSLATE_NOOP("Localizable", "Channel"),
+        QT_TRANSLATE_NOOP("Localizable", "Save as New Preset"),
+        QT_TRANSLATE_NOOP("Localizable", "Save"),
+        QT_TRANSLATE_NOOP("Localizable", "preset name"),
+        QT_TRANSLATE_NOOP("Localizable", "Recent"),
+        QT_TRANSLATE_NOOP("Localizable", "Device"),
+        QT_TRANSLATE_NOOP("Localizable", "Web Video"),
+        QT_TRANSLATE_NOOP("Localizable", "Custom"),
+        QT_TRANSLATE_NOOP("Localizable", "Search"),
+        QT_TRANSLATE_NOOP("Localizable", "Same as source"),
+        QT_TRANSLATE_NOOP("Localizable", "Auto"),
+        QT_TRANSLATE_NOOP("Localizable", "High Quality"),
+        QT_TRANSLATE_NOOP("Localizable", "Medium Quality"),
+        QT_TRANSLATE_NOOP("Localizable", "Low Quality"),
+        QT_TRANSLATE_NOOP("Localizable", "Settings"),
+        QT_TRANSLATE_NOOP("Localizable", "customSave"),
+        QT_TRANSLATE_NOOP("Localizable", "Reset"),
+        QT_TRANSLATE_NOOP("Localizable", "Cancel"),
+        QT_TRANSLATE_NOOP("Localizable", "High"),
+        QT_TRANSLATE_NOOP("Localizable", "Medium"),
+        QT_TRANSLATE_NOOP("Localizable", "Low"),
+        QT_TRANSLATE_NOOP("Localizable", "Best"),
+        QT_TRANSLATE_NOOP("Localizable", "MP4 file format"),
+        QT_TRANSLATE_NOOP("Localizable", "MP4 file format with HEVC"),
+        QT_TRANSLATE_NOOP("Localizable", "MOV file format with Apple ProRes"),
+        QT_TRANSLATE_NOOP("Localizable", "MP4 file format for iTunes"),
+        QT_TRANSLATE_NOOP("Localizable", "Matroska file format"),
+        QT_TRANSLATE_NOOP("Localizable", "Matroska file format with HEVC"),
+        QT_TRANSLATE_NOOP("Localizable", "Audiovisual Media file format"),
+        QT_TRANSLATE_NOOP("Localizable", "AVI file format with XVID"),
+        QT_TRANSLATE_NOOP("Localizable", "AVI file format with DIVX"),
+        QT_TRANSLATE_NOOP("Localizable", "MXF file format with DNxHD"),
+        QT_TRANSLATE_NOOP("Localizable", "MXF file format with Apple ProRes"),
+        QT_TRANSLATE_NOOP("Localizable", "MPEG File format for VCD"),
+        QT_TRANSLATE_NOOP("Localizable", "MPEG file format for SVCD"),
+        QT_TRANSLATE_NOOP("Localizable", "MPEG file format for DVD - Video"),
+        QT_TRANSLATE_NOOP("Localizable", "3GPP2 file format"),
+        QT_TRANSLATE_NOOP("Localizable", "3GPP file format"),
+        QT_TRANSLATE_NOOP("Localizable", "Waveform Audio File Format"),
+        QT_TRANSLATE_NOOP("Localizable", "Audio Interchange File Format"),
+        QT_TRANSLATE_NOOP("Localizable", "Simple Audio File Format"),
+        QT_TRANSLATE_NOOP("Localizable", "Audio Interchange File Format"),
+        QT_TRANSLATE_NOOP("Localizable", "Simple Audio File Format"),
+        QT_TRANSLATE_NOOP("Localizable", "Matroska Audio File Format"),
+    };
+
+    // Keys that are looked up but not bound: the titles and descriptions of the
+    // default catalogue and of the lists the data source makes, the option names
+    // of the preset editor, and the words of the popup and the editor.
+    static constexpr std::array<const char*, 31> otherKeys{
+        // Titles and descriptions of the default catalogue.
+        QT_TRANSLATE_NOOP("Localizable", "Smartphone"),
+        QT_TRANSLATE_NOOP("Localizable", "Tablet"),
+        QT_TRANSLATE_NOOP("Localizable", "Television"),
+        QT_TRANSLATE_NOOP("Localizable", "Game Console"),
+        QT_TRANSLATE_NOOP("Localizable", "Basic Phone"),
+        QT_TRANSLATE_NOOP("Localizable", "DVD Player"),
+        QT_TRANSLATE_NOOP("Localizable", "Video Sharing"),
+        QT_TRANSLATE_NOOP("Localizable", "Social Square"),
+        QT_TRANSLATE_NOOP("Localizable", "Vertical Video"),
+        QT_TRANSLATE_NOOP("Localizable", "WebM file format"),
+        QT_TRANSLATE_NOOP("Localizable", "MP3 file format"),
+        QT_TRANSLATE_NOOP("Localizable", "M4A file format with AAC"),
+        QT_TRANSLATE_NOOP("Localizable", "FLAC file format"),
+        QT_TRANSLATE_NOOP("Localizable", "Square 1080p"),
+        QT_TRANSLATE_NOOP("Localizable", "Vertical 1080p"),
+        QT_TRANSLATE_NOOP("Localizable", "Lossless"),
+        // Option names of the preset editor.
+        QT_TRANSLATE_NOOP("Localizable", "Mono"),
+        QT_TRANSLATE_NOOP("Localizable", "Stereo"),
+        QT_TRANSLATE_NOOP("Localizable", "5.1 Surround"),
+        // Descriptions of the recent and custom trees and of the default preset.
+        QT_TRANSLATE_NOOP("Localizable", "Recent Selection"),
+        QT_TRANSLATE_NOOP("Localizable", "Custom Preset"),
+        QT_TRANSLATE_NOOP("Localizable", "MP4 Format"),
+        // The root of the default catalogue.
+        QT_TRANSLATE_NOOP("Localizable", "Formats"),
+        QT_TRANSLATE_NOOP("Localizable", "Default format catalogue"),
+        // Words of the popup, its lists and the name prompt.
+        QT_TRANSLATE_NOOP("Localizable", "Edit"),
+        QT_TRANSLATE_NOOP("Localizable", "Remove"),
+        QT_TRANSLATE_NOOP("Localizable", "Loading formats…"),
+        QT_TRANSLATE_NOOP("Localizable", "No matching presets"),
+        QT_TRANSLATE_NOOP("Localizable", "Choose a format"),
+        QT_TRANSLATE_NOOP("Localizable", "Format"),
+        QT_TRANSLATE_NOOP("Localizable", "Names are limited to %1 characters."),
+    };
+
+    // boundKeys as the manager hands them out, duplicates included.
+    static QStringList boundKeyList() { return toList(boundKeys); }
+
+    // Every key of the tables once, in the order the tables hold them.
+    static QStringList keyList() {
+        QStringList keys = toList(boundKeys) + toList(otherKeys);
+        keys.removeDuplicates();
+        return keys;
+    }
+
+private:
+    template <std::size_t N>
+    static QStringList toList(const std::array<const char*, N>& keys) {
+        QStringList list;
+        list.reserve(static_cast<qsizetype>(N));
+        for (const char* key : keys)
+            list << QString::fromUtf8(key);
+        return list;
+    }
+};

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "LMCliTarget.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <string>
+
+struct LMCliCommand;
+
+// One run of a command: the words after its name and what was loaded for it.
+struct LMCliCall {
+    const LMCliCommand* command = nullptr;
+    // "recent" or "custom" for a verb of the lists, else empty.
+    QString group;
+    QStringList operands;
+    LMCliTarget target;
+    // Set by --language: titles and descriptions are shown as the popup shows
+    // them, each with its description after a tab.
+    bool localized = false;
+
+    std::string Operand(qsizetype index) const { return operands.at(index).toStdString(); }
+};
