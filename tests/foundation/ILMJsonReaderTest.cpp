@@ -1,5 +1,6 @@
 #include "ILMJsonReader.h"
 #include "ILMJsonWriter.h"
+#include "LMTestEnvironment.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,17 +13,7 @@
 #include <sys/stat.h>
 
 using namespace Lumeran;
-
-namespace {
-
-std::string WriteFile(const QTemporaryDir& dir, const QString& name, const QByteArray& data) {
-    QFile file(dir.filePath(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(data);
-    return file.fileName().toStdString();
-}
-
-} // namespace
+using namespace Lumeran::TestSupport;
 
 TEST(ILMJsonReaderTest, ReadsAnObject) {
     auto json = ILMJsonReader::ReadJsonString(R"({"title":"MP4","n":3})", nullptr);
@@ -33,7 +24,7 @@ TEST(ILMJsonReaderTest, ReadsAnObject) {
 
 TEST(ILMJsonReaderTest, ReadsAFile) {
     QTemporaryDir dir;
-    const auto path = WriteFile(dir, QStringLiteral("a.json"), R"([1,2,3])");
+    const auto path = WriteTestFile(dir, QStringLiteral("a.json"), R"([1,2,3])");
     auto json = ILMJsonReader::ReadJsonFile(path, nullptr);
     ASSERT_TRUE(json);
     EXPECT_EQ(json->Value().toArray().size(), 3);
@@ -67,8 +58,9 @@ TEST(ILMJsonReaderTest, MissingFileEmptyFileAndDirectoryGiveEmptyPointer) {
     EXPECT_EQ(error->ErrorCode(), ILMError::FileError);
     EXPECT_FALSE(ILMJsonReader::ReadJsonFile(dir.path().toStdString(), nullptr));
     EXPECT_FALSE(
-        ILMJsonReader::ReadJsonFile(WriteFile(dir, QStringLiteral("empty.json"), {}), nullptr));
-    const auto truncated = WriteFile(dir, QStringLiteral("t.json"), R"({"children":[{"title":"A")");
+        ILMJsonReader::ReadJsonFile(WriteTestFile(dir, QStringLiteral("empty.json"), {}), nullptr));
+    const auto truncated =
+        WriteTestFile(dir, QStringLiteral("t.json"), R"({"children":[{"title":"A")");
     EXPECT_FALSE(ILMJsonReader::ReadJsonFile(truncated, nullptr));
 }
 

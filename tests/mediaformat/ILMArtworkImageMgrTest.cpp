@@ -2,6 +2,8 @@
 #include "ILMFileProvider.h"
 #include "LMDefaultCatalogue.h"
 
+#include "LMTestEnvironment.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -12,19 +14,13 @@
 #include <sys/stat.h>
 
 using namespace Lumeran;
+using namespace Lumeran::TestSupport;
 
 namespace {
 
 std::string DefaultIcfg() {
     return ILMFileProvider::AppendPathExtension(
         ILMFileProvider::RemovePathExtension(LMDefaultCatalogue::Path()), "icfg");
-}
-
-std::string Write(const QTemporaryDir& dir, const QString& name, const QByteArray& data) {
-    QFile file(dir.filePath(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(data);
-    return file.fileName().toStdString();
 }
 
 } // namespace
@@ -51,15 +47,15 @@ TEST(ILMArtworkImageMgrTest, MissingOrBrokenConfigurationGivesNoManager) {
         dir.filePath(QStringLiteral("x.icfg")).toStdString(), &error));
     EXPECT_TRUE(error);
     EXPECT_FALSE(ILMArtworkImageMgr::MallocArtworkImageMgr(
-        Write(dir, QStringLiteral("b.icfg"), "{oops"), nullptr));
+        WriteTestFile(dir, QStringLiteral("b.icfg"), "{oops"), nullptr));
     EXPECT_FALSE(ILMArtworkImageMgr::MallocArtworkImageMgr(
-        Write(dir, QStringLiteral("c.icfg"), R"({"x":1})"), nullptr));
+        WriteTestFile(dir, QStringLiteral("c.icfg"), R"({"x":1})"), nullptr));
 }
 
 TEST(ILMArtworkImageMgrTest, EntriesWithMissingImagesAreLeftOut) {
     QTemporaryDir dir;
-    Write(dir, QStringLiteral("here.svg"), "<svg xmlns='http://www.w3.org/2000/svg'/>");
-    const auto path = Write(dir, QStringLiteral("a.icfg"), R"({"artwork":[
+    WriteTestFile(dir, QStringLiteral("here.svg"), "<svg xmlns='http://www.w3.org/2000/svg'/>");
+    const auto path = WriteTestFile(dir, QStringLiteral("a.icfg"), R"({"artwork":[
         {"faceId":5,"images":["here.svg"]},
         {"faceId":6,"images":["gone.svg"]},
         {"faceId":"7","images":["here.svg"]}]})");
@@ -75,17 +71,16 @@ TEST(ILMArtworkImageMgrTest, EntriesWithMissingImagesAreLeftOut) {
 TEST(ILMArtworkImageMgrTest, ImagesOutsideTheConfigurationFolderAreLeftOut) {
     QTemporaryDir dir;
     ASSERT_TRUE(QDir(dir.path()).mkpath(QStringLiteral("conf/art")));
-    Write(dir, QStringLiteral("outside.svg"), "<svg xmlns='http://www.w3.org/2000/svg'/>");
-    Write(dir, QStringLiteral("conf/art/in.svg"), "<svg xmlns='http://www.w3.org/2000/svg'/>");
+    WriteTestFile(dir, QStringLiteral("outside.svg"), "<svg xmlns='http://www.w3.org/2000/svg'/>");
+    WriteTestFile(dir, QStringLiteral("conf/art/in.svg"),
+                  "<svg xmlns='http://www.w3.org/2000/svg'/>");
     ASSERT_TRUE(QFile::link(dir.filePath(QStringLiteral("outside.svg")),
                             dir.filePath(QStringLiteral("conf/art/link.svg"))));
     const std::string outside = dir.filePath(QStringLiteral("outside.svg")).toStdString();
-    const auto path = Write(dir, QStringLiteral("conf/a.icfg"),
-                            QByteArray(R"({"artwork":[
+    const auto path = WriteTestFile(dir, QStringLiteral("conf/a.icfg"), QByteArray(R"({"artwork":[
         {"faceId":1,"images":["../outside.svg"]},
         {"faceId":2,"images":["art/../../outside.svg"]},
-        {"faceId":3,"images":[")") +
-                                QByteArray::fromStdString(outside) + R"("]},
+        {"faceId":3,"images":[")") + QByteArray::fromStdString(outside) + R"("]},
         {"faceId":4,"images":["art/link.svg"]},
         {"faceId":5,"images":["art/in.svg"]}]})");
     const auto manager = ILMArtworkImageMgr::MallocArtworkImageMgr(path, nullptr);

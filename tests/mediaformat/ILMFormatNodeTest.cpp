@@ -4,6 +4,7 @@
 #include "LMFormatReadOptions.h"
 #include "LMFormatReadReport.h"
 #include "LMFormatTreeFactory.h"
+#include "LMTestEnvironment.h"
 
 #include <QDir>
 #include <QFile>
@@ -227,10 +228,7 @@ TEST(ILMFormatNodeTest, AbsurdlyLongTextGivesEmptyPointer) {
 TEST(ILMFormatNodeTest, BrokenFilesGiveEmptyPointer) {
     QTemporaryDir dir;
     const auto write = [&](const QString& name, const QByteArray& data) {
-        QFile file(dir.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(data);
-        return file.fileName().toStdString();
+        return WriteTestFile(dir, name, data);
     };
     const auto read = [](const std::string& path) {
         return ILMFormatNode::MallocFormatNode(ILMJsonReader::ReadJsonFile(path, nullptr));

@@ -2,6 +2,10 @@
 
 #include "ILMAppSettings.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
 namespace Lumeran::TestSupport {
 
 IsolatedSettings::IsolatedSettings() {
@@ -19,6 +23,15 @@ std::string IsolatedSettings::DirPath() const {
 
 std::string SourcePath(const std::string& relative) {
     return std::string(LMFP_SOURCE_DIR) + "/" + relative;
+}
+
+std::string WriteTestFile(const QTemporaryDir& dir, const QString& name, const QByteArray& data) {
+    const QString path = dir.filePath(name);
+    EXPECT_TRUE(QDir().mkpath(QFileInfo(path).absolutePath()));
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    EXPECT_EQ(file.write(data), data.size());
+    return path.toStdString();
 }
 
 } // namespace Lumeran::TestSupport

@@ -35,4 +35,7 @@ protected:
 // Path of a file in the source tree.
 std::string SourcePath(const std::string& relative);
 
+// Writes data as the file name (folders made as needed) in dir; its path.
+std::string WriteTestFile(const QTemporaryDir& dir, const QString& name, const QByteArray& data);
+
 } // namespace Lumeran::TestSupport
