@@ -95,17 +95,21 @@ void LMFmtPresetDataSource::AsyncLoadExternalDataSource(const std::string& path,
         ILMFileProvider::AppendPathExtension(ILMFileProvider::RemovePathExtension(path), "icfg");
     m_artworkMgr = ILMArtworkImageMgr::MallocArtworkImageMgr(artworkPath, nullptr);
     auto load = std::make_shared<LMLoaderExitGuard::Load>();
-    m_pending = std::async(std::launch::async, [path, load] {
-                    return LoadExternalTree(path, load->cancel);
-                }).share();
-    m_loader = std::thread([pending = m_pending, load, completion = std::move(completion)] {
+    const std::shared_future<std::shared_ptr<ILMFormatNode>> pending =
+        std::async(std::launch::async, [path, load] {
+            return LoadExternalTree(path, load->cancel);
+        }).share();
+    m_pending = pending;
+    // Everything the notifier thread does not own is set up before it starts:
+    // its completion may collect the tree, which takes m_pending away.
+    LMLoaderExitGuard::Watch(load, [pending](std::chrono::milliseconds timeout) {
+        return pending.wait_for(timeout) == std::future_status::ready;
+    });
+    m_loader = std::thread([pending, load, completion = std::move(completion)] {
         pending.wait();
         const std::lock_guard lock(load->completing);
         if (completion && !load->cancel)
             completion();
-    });
-    LMLoaderExitGuard::Watch(load, [pending = m_pending](std::chrono::milliseconds timeout) {
-        return pending.wait_for(timeout) == std::future_status::ready;
     });
 }
 
