@@ -12,6 +12,7 @@
 #include "LMFmtNodeViewCtrl.h"
 #include "LMFormatCollectionView.h"
 #include "LMFormatSelectionWndCtrl.h"
+#include "LMFormatSelectionWndCtrl_p.h"
 #include "LMTabHeaderView.h"
 
 #include <QApplication>
@@ -133,12 +134,13 @@ void BM_PopupShownWarm(benchmark::State& state) {
 }
 
 QAbstractButton* Tab(int index) {
-    return g_ctrl->tabHeaderView()->tabButtons().at(index);
+    return LMFormatSelectionWndCtrlPrivate::get(g_ctrl)->tabHeaderView()->tabButtons().at(index);
 }
 
 void BM_TabOf10000PresetsShown(benchmark::State& state) {
     ShowPopup();
-    QAbstractItemView* list = g_ctrl->defFmtViewCtrls().at(0)->fmtListView();
+    QAbstractItemView* list =
+        LMFormatSelectionWndCtrlPrivate::get(g_ctrl)->defFmtViewCtrls().at(0)->fmtListView();
     PaintCounter counter;
     list->viewport()->installEventFilter(&counter);
     for (auto _ : state) {
@@ -161,7 +163,7 @@ void BM_TabOf10000PresetsLoaded(benchmark::State& state) {
     ShowPopup();
     QTest::mouseClick(Tab(1), Qt::LeftButton);
     QApplication::processEvents();
-    LMFmtNodeViewCtrl* ctrl = g_ctrl->defFmtViewCtrls().at(0);
+    LMFmtNodeViewCtrl* ctrl = LMFormatSelectionWndCtrlPrivate::get(g_ctrl)->defFmtViewCtrls().at(0);
     const std::shared_ptr<const ILMFormatNode> tree =
         std::as_const(*ILMFmtPresetDataSource::Shared()->GetExternalFormatPresets()).ChildAt(0);
     PaintCounter counter;
@@ -178,9 +180,10 @@ void BM_SearchKeystrokeOn10000Presets(benchmark::State& state) {
     ShowPopup();
     QTest::mouseClick(Tab(2), Qt::LeftButton);
     QApplication::processEvents();
-    QLineEdit* field = g_ctrl->searchField();
+    QLineEdit* field = LMFormatSelectionWndCtrlPrivate::get(g_ctrl)->searchField();
     field->setFocus();
-    QAbstractItemView* list = g_ctrl->defFmtViewCtrls().at(1)->fmtListView();
+    QAbstractItemView* list =
+        LMFormatSelectionWndCtrlPrivate::get(g_ctrl)->defFmtViewCtrls().at(1)->fmtListView();
     PaintCounter counter;
     list->viewport()->installEventFilter(&counter);
     bool typed = false;

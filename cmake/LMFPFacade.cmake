@@ -10,5 +10,8 @@ target_include_directories(LMMediaFormatPopup PUBLIC
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/core>)
 target_link_libraries(LMMediaFormatPopup
     PUBLIC LMMediaFormatPopup::Core LMMediaFormatPopup::Localization
-           LMMediaFormatPopup::Selection LMMediaFormatPopup::Editor)
+           LMMediaFormatPopup::Selection LMMediaFormatPopup::Editor
+           # Every installed header, the artwork adapter included, is reachable
+           # through this one target.
+           LMMediaFormatPopup::MediaFormatGui)
 lmfp_install_headers(LMMediaFormatPopup ${PROJECT_SOURCE_DIR}/core/ILMMediaFormatPopup.h)

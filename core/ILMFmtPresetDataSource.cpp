@@ -1,15 +1,28 @@
 #include "ILMFmtPresetDataSource.h"
 
 #include "LMFmtPresetDataSource.h"
-#include "LMSharedDataSource_p.h"
+#include "LMSingleton.h"
 
 namespace Lumeran {
 
+namespace {
+
+std::shared_ptr<ILMFmtPresetDataSource> MakeDataSource() {
+    return std::make_shared<LMFmtPresetDataSource>();
+}
+
+// A test starts its next case only once the load it began has finished with
+// this store, then reads the settings anew.
+void FinishLoading(ILMFmtPresetDataSource& source) {
+    source.WaitForLoadingComplete();
+}
+
+constinit LMSingleton<ILMFmtPresetDataSource> s_dataSource{&MakeDataSource, &FinishLoading};
+
+} // namespace
+
 std::shared_ptr<ILMFmtPresetDataSource> ILMFmtPresetDataSource::Shared() {
-    std::shared_ptr<ILMFmtPresetDataSource>& instance = LMSharedDataSource::Holder();
-    if (!instance)
-        instance = std::make_shared<LMFmtPresetDataSource>();
-    return instance;
+    return s_dataSource.Instance();
 }
 
 } // namespace Lumeran

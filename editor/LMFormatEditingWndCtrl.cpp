@@ -1,6 +1,6 @@
 #include "LMFormatEditingWndCtrl.h"
 
-#include "LMSharedEditingWindow_p.h"
+#include "LMFormatEditingWndCtrl_p.h"
 
 #include "ILMFmtPresetDataSource.h"
 #include "ILMFormatNode.h"
@@ -9,6 +9,7 @@
 #include "LMFormatInternationalizationMgr.h"
 #include "LMNewPresetPrompt.h"
 #include "LMNewPresetView.h"
+#include "LMSingleton.h"
 #include "ui_LMFormatEditingWndCtrl.h"
 
 #include <QApplication>
@@ -28,9 +29,6 @@ using Lumeran::ILMFormatNode;
 using Lumeran::ILMFormatPreset;
 
 namespace {
-
-// One stream's boxes: the encoder, the two value boxes and the quality box.
-using StreamBoxes = std::array<QComboBox*, 4>;
 
 template <typename T>
 std::string nameOf(const std::shared_ptr<T>& item) {
@@ -77,86 +75,27 @@ void fillValueBox(QComboBox* box, const ILMCodecPreset* codec, int (ILMCodecPres
 
 } // namespace
 
-struct LMFormatEditingWndCtrl::Private {
-    Ui::LMFormatEditingWndCtrl ui;
-    // The caller's preset, changed by Save only, and the copy every control acts on.
-    std::shared_ptr<ILMFormatPreset> originalFormat;
-    std::shared_ptr<ILMFormatPreset> editingFormat;
-    std::shared_ptr<const ILMFormatNode> fmtNode;
-    LMFormatEditingWndCtrlDelegate* delegate = nullptr;
-    QPointer<LMNewPresetPrompt> prompt;
-    bool btnSaved = false;
-    bool inSession = false;
+// ---- The editor ------------------------------------------------------------------
 
-    StreamBoxes boxes(bool audio) const {
-        if (audio)
-            return {ui.cmbAEncoder, ui.cmbSampleRate, ui.cmbChannel, ui.cmbAQuality};
-        return {ui.cmbVEncoder, ui.cmbResolution, ui.cmbFrameRate, ui.cmbVQuality};
-    }
-    std::array<QPushButton*, 3> buttons() const {
-        return {ui.btnDefault, ui.btnSave, ui.btnSaveNewPreset};
-    }
-};
+namespace {
+
+constinit Lumeran::LMSingleton<LMFormatEditingWndCtrl> s_editor{
+    &LMFormatEditingWndCtrlPrivate::make};
+
+} // namespace
 
 LMFormatEditingWndCtrl::LMFormatEditingWndCtrl(QWidget* parent)
-    : QDialog(parent), d(std::make_unique<Private>()) {
-    d->ui.setupUi(this);
-    const Ui::LMFormatEditingWndCtrl& ui = d->ui;
-    // activated() comes from the user only, so filling a box never acts on the preset.
-    connect(ui.cmbVEncoder, &QComboBox::activated, this,
-            &LMFormatEditingWndCtrl::VideoEncoderChangeAction);
-    connect(ui.cmbResolution, &QComboBox::activated, this,
-            &LMFormatEditingWndCtrl::VideoResolutionChangeAction);
-    connect(ui.cmbFrameRate, &QComboBox::activated, this,
-            &LMFormatEditingWndCtrl::VideoFrameRateChangeAction);
-    connect(ui.cmbVQuality, &QComboBox::activated, this,
-            &LMFormatEditingWndCtrl::VideoQualityChangeAction);
-    connect(ui.cmbAEncoder, &QComboBox::activated, this,
-            &LMFormatEditingWndCtrl::AudioEncoderChangeAction);
-    connect(ui.cmbChannel, &QComboBox::activated, this,
-            &LMFormatEditingWndCtrl::AudioChannelChangeAction);
-    connect(ui.cmbSampleRate, &QComboBox::activated, this,
-            &LMFormatEditingWndCtrl::AudioAampleRateChangeAction);
-    connect(ui.cmbAQuality, &QComboBox::activated, this,
-            &LMFormatEditingWndCtrl::AudioQualityChangeAction);
-    connect(ui.btnDefault, &QPushButton::clicked, this, &LMFormatEditingWndCtrl::ResetAction);
-    connect(ui.btnSave, &QPushButton::clicked, this, &LMFormatEditingWndCtrl::SaveAction);
-    connect(ui.btnSaveNewPreset, &QPushButton::clicked, this,
-            &LMFormatEditingWndCtrl::SaveAsNewPresetAction);
-    connect(lizationMgr(), &LMFormatInternationalizationMgr::languageDidChange, this,
-            &LMFormatEditingWndCtrl::languageDidChanged);
-    languageDidChanged();
-    SetupFormatSettings();
+    : QDialog(parent), d(std::make_unique<LMFormatEditingWndCtrlPrivate>(this)) {
+    d->ui->setupUi(this);
+    d->connectControls();
+    d->languageDidChanged();
+    d->SetupFormatSettings();
 }
 
 LMFormatEditingWndCtrl::~LMFormatEditingWndCtrl() = default;
 
-namespace {
-
-QPointer<LMFormatEditingWndCtrl>& SharedInstance() {
-    static QPointer<LMFormatEditingWndCtrl> instance;
-    return instance;
-}
-
-} // namespace
-
 LMFormatEditingWndCtrl* LMFormatEditingWndCtrl::shared() {
-    QPointer<LMFormatEditingWndCtrl>& instance = SharedInstance();
-    if (!instance) {
-        instance = new LMFormatEditingWndCtrl;
-        // A widget must go before the application object does; post routines
-        // run at the start of the application object's destructor.
-        static const bool routineAdded = [] {
-            qAddPostRoutine([] { delete SharedInstance().data(); });
-            return true;
-        }();
-        (void)routineAdded;
-    }
-    return instance;
-}
-
-void Lumeran::LMSharedEditingWindow::ResetForTesting() {
-    delete SharedInstance().data();
+    return s_editor.Instance().get();
 }
 
 LMFormatInternationalizationMgr* LMFormatEditingWndCtrl::lizationMgr() const {
@@ -171,24 +110,22 @@ void LMFormatEditingWndCtrl::setDelegate(LMFormatEditingWndCtrlDelegate* delegat
     d->delegate = delegate;
 }
 
-// ---- Session ---------------------------------------------------------------------
-
 bool LMFormatEditingWndCtrl::startEditing(std::shared_ptr<ILMFormatPreset> preset,
                                           std::shared_ptr<const ILMFormatNode> node) {
     // One window cannot run two modal loops; the running session keeps going.
     if (d->inSession)
         return false;
-    setBtnSaved(false);
+    d->setBtnSaved(false);
     d->originalFormat = std::move(preset);
     d->editingFormat = d->originalFormat ? d->originalFormat->Clone() : nullptr;
     d->fmtNode = std::move(node);
-    setWindowTitle(getWindowTitle());
-    SetupFormatSettings();
-    placeOnScreen();
+    setWindowTitle(d->getWindowTitle());
+    d->SetupFormatSettings();
+    d->placeOnScreen();
     d->inSession = true;
     exec();
     // hide() ends the loop without done(); the session must still end properly.
-    endSession();
+    d->endSession();
     return d->btnSaved;
 }
 
@@ -196,18 +133,84 @@ bool LMFormatEditingWndCtrl::btnSaved() const {
     return d->btnSaved;
 }
 
-void LMFormatEditingWndCtrl::setBtnSaved(bool saved) {
-    if (d->btnSaved == saved)
-        return;
-    d->btnSaved = saved;
-    Q_EMIT btnSavedChanged(saved);
+void LMFormatEditingWndCtrl::reject() {
+    d->CancelAction();
 }
 
-void LMFormatEditingWndCtrl::placeOnScreen() {
+void LMFormatEditingWndCtrl::done(int result) {
+    Q_UNUSED(result);
+    d->endSession();
+    // The session's outcome is what Save decided, whichever way the window closes.
+    QDialog::done(d->btnSaved ? QDialog::Accepted : QDialog::Rejected);
+}
+
+void LMFormatEditingWndCtrl::windowWillClose() {
+    // A question left open would outlive its editor; it answers "Cancel".
+    if (d->prompt)
+        d->prompt->reject();
+}
+
+// ---- Its insides -------------------------------------------------------------------
+
+LMFormatEditingWndCtrlPrivate::LMFormatEditingWndCtrlPrivate(LMFormatEditingWndCtrl* owner)
+    : q(owner), ui(std::make_unique<Ui::LMFormatEditingWndCtrl>()) {}
+
+LMFormatEditingWndCtrlPrivate::~LMFormatEditingWndCtrlPrivate() = default;
+
+LMFormatEditingWndCtrlPrivate* LMFormatEditingWndCtrlPrivate::get(LMFormatEditingWndCtrl* editor) {
+    return editor ? editor->d.get() : nullptr;
+}
+
+std::shared_ptr<LMFormatEditingWndCtrl> LMFormatEditingWndCtrlPrivate::make() {
+    return std::make_shared<LMFormatEditingWndCtrl>();
+}
+
+LMFormatEditingWndCtrlPrivate::StreamBoxes LMFormatEditingWndCtrlPrivate::boxes(bool audio) const {
+    if (audio)
+        return {ui->cmbAEncoder, ui->cmbSampleRate, ui->cmbChannel, ui->cmbAQuality};
+    return {ui->cmbVEncoder, ui->cmbResolution, ui->cmbFrameRate, ui->cmbVQuality};
+}
+
+std::array<QPushButton*, 3> LMFormatEditingWndCtrlPrivate::buttons() const {
+    return {ui->btnDefault, ui->btnSave, ui->btnSaveNewPreset};
+}
+
+void LMFormatEditingWndCtrlPrivate::connectControls() {
+    // activated() comes from the user only, so filling a box never acts on the preset.
+    const auto onPick = [this](QComboBox* box, void (LMFormatEditingWndCtrlPrivate::*action)(int)) {
+        QObject::connect(box, &QComboBox::activated, q,
+                         [this, action](int index) { (this->*action)(index); });
+    };
+    onPick(ui->cmbVEncoder, &LMFormatEditingWndCtrlPrivate::VideoEncoderChangeAction);
+    onPick(ui->cmbResolution, &LMFormatEditingWndCtrlPrivate::VideoResolutionChangeAction);
+    onPick(ui->cmbFrameRate, &LMFormatEditingWndCtrlPrivate::VideoFrameRateChangeAction);
+    onPick(ui->cmbVQuality, &LMFormatEditingWndCtrlPrivate::VideoQualityChangeAction);
+    onPick(ui->cmbAEncoder, &LMFormatEditingWndCtrlPrivate::AudioEncoderChangeAction);
+    onPick(ui->cmbChannel, &LMFormatEditingWndCtrlPrivate::AudioChannelChangeAction);
+    onPick(ui->cmbSampleRate, &LMFormatEditingWndCtrlPrivate::AudioAampleRateChangeAction);
+    onPick(ui->cmbAQuality, &LMFormatEditingWndCtrlPrivate::AudioQualityChangeAction);
+    QObject::connect(ui->btnDefault, &QPushButton::clicked, q, [this] { ResetAction(); });
+    QObject::connect(ui->btnSave, &QPushButton::clicked, q, [this] { SaveAction(); });
+    QObject::connect(ui->btnSaveNewPreset, &QPushButton::clicked, q,
+                     [this] { SaveAsNewPresetAction(); });
+    QObject::connect(q->lizationMgr(), &LMFormatInternationalizationMgr::languageDidChange, q,
+                     [this] { languageDidChanged(); });
+}
+
+// ---- Session ---------------------------------------------------------------------
+
+void LMFormatEditingWndCtrlPrivate::setBtnSaved(bool saved) {
+    if (btnSaved == saved)
+        return;
+    btnSaved = saved;
+    Q_EMIT q->btnSavedChanged(saved);
+}
+
+void LMFormatEditingWndCtrlPrivate::placeOnScreen() {
     // Centred on the screen the user works on: the host's active window's, else
     // the one under the pointer, else the primary one.
     QScreen* screen = nullptr;
-    if (const QWidget* host = QApplication::activeWindow(); host && host != this)
+    if (const QWidget* host = QApplication::activeWindow(); host && host != q)
         screen = host->screen();
     if (!screen)
         screen = QGuiApplication::screenAt(QCursor::pos());
@@ -216,45 +219,46 @@ void LMFormatEditingWndCtrl::placeOnScreen() {
     if (!screen)
         return;
     // The layout may need more room than the layout file's size in some languages.
-    resize(size().expandedTo(minimumSizeHint()));
+    q->resize(q->size().expandedTo(q->minimumSizeHint()));
     // The native window knows the title bar's size, where the platform tells it.
-    create();
-    QRect frame(QPoint(), frameGeometry().size());
+    q->create();
+    QRect frame(QPoint(), q->frameGeometry().size());
     frame.moveCenter(screen->availableGeometry().center());
-    move(frame.topLeft());
+    q->move(frame.topLeft());
 }
 
-QString LMFormatEditingWndCtrl::getWindowTitle() const {
-    const QString settings = lizationMgr()->stringForKey(QStringLiteral("Settings"));
-    if (!d->editingFormat)
+QString LMFormatEditingWndCtrlPrivate::getWindowTitle() const {
+    const QString settings = q->lizationMgr()->stringForKey(QStringLiteral("Settings"));
+    if (!editingFormat)
         return settings;
     const QString prefix = settings + QStringLiteral(" - ");
-    const std::string title = d->editingFormat->Title();
-    if (d->fmtNode && title.find(d->fmtNode->Title()) == std::string::npos)
-        return prefix + QString::fromStdString(d->fmtNode->Title()) + QLatin1Char(' ') +
+    const std::string title = editingFormat->Title();
+    if (fmtNode && title.find(fmtNode->Title()) == std::string::npos)
+        return prefix + QString::fromStdString(fmtNode->Title()) + QLatin1Char(' ') +
                QString::fromStdString(title);
     return prefix + QString::fromStdString(title);
 }
 
-void LMFormatEditingWndCtrl::languageDidChanged() {
-    const Ui::LMFormatEditingWndCtrl& ui = d->ui;
-    const auto text = [this](const QString& key) { return lizationMgr()->stringForKey(key); };
-    ui.grpVideo->setTitle(text(QStringLiteral("Video")));
-    ui.grpAudio->setTitle(text(QStringLiteral("Audio")));
-    ui.lblVEncoder->setText(text(QStringLiteral("Encoder")));
-    ui.lblAEncoder->setText(text(QStringLiteral("Encoder")));
-    ui.lblResolution->setText(text(QStringLiteral("Resolution")));
-    ui.lblFrameRate->setText(text(QStringLiteral("FrameRate")));
-    ui.lblVQuality->setText(text(QStringLiteral("Quality")));
-    ui.lblAQuality->setText(text(QStringLiteral("Quality")));
-    ui.lblChannel->setText(text(QStringLiteral("Channel")));
-    ui.lblSampleRate->setText(text(QStringLiteral("Sample Rate")));
-    ui.btnDefault->setText(text(QStringLiteral("Reset")));
-    ui.btnSave->setText(text(QStringLiteral("Save")));
-    ui.btnSaveNewPreset->setText(text(QStringLiteral("Save as New Preset")));
+void LMFormatEditingWndCtrlPrivate::languageDidChanged() {
+    const Ui::LMFormatEditingWndCtrl& form = *ui;
+    const auto text = [this](const QString& key) { return q->lizationMgr()->stringForKey(key); };
+    form.grpVideo->setTitle(text(QStringLiteral("Video")));
+    form.grpAudio->setTitle(text(QStringLiteral("Audio")));
+    form.lblVEncoder->setText(text(QStringLiteral("Encoder")));
+    form.lblAEncoder->setText(text(QStringLiteral("Encoder")));
+    form.lblResolution->setText(text(QStringLiteral("Resolution")));
+    form.lblFrameRate->setText(text(QStringLiteral("FrameRate")));
+    form.lblVQuality->setText(text(QStringLiteral("Quality")));
+    form.lblAQuality->setText(text(QStringLiteral("Quality")));
+    form.lblChannel->setText(text(QStringLiteral("Channel")));
+    form.lblSampleRate->setText(text(QStringLiteral("Sample Rate")));
+    form.btnDefault->setText(text(QStringLiteral("Reset")));
+    form.btnSave->setText(text(QStringLiteral("Save")));
+    form.btnSaveNewPreset->setText(text(QStringLiteral("Save as New Preset")));
     // One label width for both sections, so that their boxes line up.
-    const std::array labels{ui.lblVEncoder, ui.lblResolution, ui.lblFrameRate,  ui.lblVQuality,
-                            ui.lblAEncoder, ui.lblChannel,    ui.lblSampleRate, ui.lblAQuality};
+    const std::array labels{form.lblVEncoder,   form.lblResolution, form.lblFrameRate,
+                            form.lblVQuality,   form.lblAEncoder,   form.lblChannel,
+                            form.lblSampleRate, form.lblAQuality};
     int labelWidth = 0;
     for (QLabel* label : labels) {
         label->setMinimumWidth(0);
@@ -262,18 +266,18 @@ void LMFormatEditingWndCtrl::languageDidChanged() {
     }
     for (QLabel* label : labels)
         label->setMinimumWidth(labelWidth);
-    setWindowTitle(getWindowTitle());
+    q->setWindowTitle(getWindowTitle());
     // The option titles are localized too; the editing copy holds every choice
     // made so far, so filling again from it loses nothing.
-    if (d->editingFormat)
+    if (editingFormat)
         SetupFormatSettings();
 }
 
 // ---- Filling the boxes -----------------------------------------------------------
 
-void LMFormatEditingWndCtrl::SetupFormatSettings() {
-    const bool hasPreset = d->editingFormat != nullptr;
-    for (QPushButton* button : d->buttons())
+void LMFormatEditingWndCtrlPrivate::SetupFormatSettings() {
+    const bool hasPreset = editingFormat != nullptr;
+    for (QPushButton* button : buttons())
         button->setEnabled(hasPreset);
     if (hasPreset) {
         SetupFormatVideoSettings();
@@ -281,26 +285,26 @@ void LMFormatEditingWndCtrl::SetupFormatSettings() {
         return;
     }
     for (const bool audio : {false, true}) {
-        for (QComboBox* box : d->boxes(audio)) {
+        for (QComboBox* box : boxes(audio)) {
             box->setEnabled(false);
             emptyBox(box);
         }
     }
 }
 
-void LMFormatEditingWndCtrl::SetupFormatVideoSettings() {
+void LMFormatEditingWndCtrlPrivate::SetupFormatVideoSettings() {
     setupStream(false);
 }
 
-void LMFormatEditingWndCtrl::SetupFormatAudioSettings() {
+void LMFormatEditingWndCtrlPrivate::SetupFormatAudioSettings() {
     setupStream(true);
 }
 
-void LMFormatEditingWndCtrl::setupStream(bool audio) {
-    const StreamBoxes boxes = d->boxes(audio);
+void LMFormatEditingWndCtrlPrivate::setupStream(bool audio) {
+    const StreamBoxes boxes = this->boxes(audio);
     QComboBox* encoder = boxes[0];
     emptyBox(encoder);
-    const ILMFormatPreset* preset = d->editingFormat.get();
+    const ILMFormatPreset* preset = editingFormat.get();
     if (!preset)
         return;
     const int count = audio ? preset->AudioCodecCount() : preset->VideoCodecCount();
@@ -324,23 +328,22 @@ void LMFormatEditingWndCtrl::setupStream(bool audio) {
     }
 }
 
-void LMFormatEditingWndCtrl::SetupFormatVCodecSettings(int index) {
+void LMFormatEditingWndCtrlPrivate::SetupFormatVCodecSettings(int index) {
     setupCodec(false, index);
 }
 
-void LMFormatEditingWndCtrl::SetupFormatACodecSettings(int index) {
+void LMFormatEditingWndCtrlPrivate::SetupFormatACodecSettings(int index) {
     setupCodec(true, index);
 }
 
-void LMFormatEditingWndCtrl::setupCodec(bool audio, int index) {
-    const StreamBoxes boxes = d->boxes(audio);
+void LMFormatEditingWndCtrlPrivate::setupCodec(bool audio, int index) {
+    const StreamBoxes boxes = this->boxes(audio);
     const auto dependents = {boxes[1], boxes[2], boxes[3]};
     for (QComboBox* box : dependents)
         emptyBox(box);
     std::shared_ptr<ILMCodecPreset> codec;
-    if (d->editingFormat)
-        codec =
-            audio ? d->editingFormat->AudioCodecAt(index) : d->editingFormat->VideoCodecAt(index);
+    if (editingFormat)
+        codec = audio ? editingFormat->AudioCodecAt(index) : editingFormat->VideoCodecAt(index);
     // The automatic codec leaves every detail to the muxer: nothing to choose.
     if (!codec || codec->IsAutoValue()) {
         for (QComboBox* box : dependents)
@@ -357,28 +360,28 @@ void LMFormatEditingWndCtrl::setupCodec(bool audio, int index) {
     SetupFormatQuality(codec, boxes[3]);
 }
 
-void LMFormatEditingWndCtrl::SetupFormatResolutions(std::shared_ptr<ILMCodecPreset> codec) {
-    fillValueBox(d->ui.cmbResolution, codec.get(), &ILMCodecPreset::ResolutionCount,
+void LMFormatEditingWndCtrlPrivate::SetupFormatResolutions(std::shared_ptr<ILMCodecPreset> codec) {
+    fillValueBox(ui->cmbResolution, codec.get(), &ILMCodecPreset::ResolutionCount,
                  &ILMCodecPreset::ResolutionAt, &ILMCodecPreset::CurrentResolutionIndex);
 }
 
-void LMFormatEditingWndCtrl::SetupFormatFramerates(std::shared_ptr<ILMCodecPreset> codec) {
-    fillValueBox(d->ui.cmbFrameRate, codec.get(), &ILMCodecPreset::FramerateCount,
+void LMFormatEditingWndCtrlPrivate::SetupFormatFramerates(std::shared_ptr<ILMCodecPreset> codec) {
+    fillValueBox(ui->cmbFrameRate, codec.get(), &ILMCodecPreset::FramerateCount,
                  &ILMCodecPreset::FramerateAt, &ILMCodecPreset::CurrentFramerateIndex);
 }
 
-void LMFormatEditingWndCtrl::SetupFormatSamplerates(std::shared_ptr<ILMCodecPreset> codec) {
-    fillValueBox(d->ui.cmbSampleRate, codec.get(), &ILMCodecPreset::SamplerateCount,
+void LMFormatEditingWndCtrlPrivate::SetupFormatSamplerates(std::shared_ptr<ILMCodecPreset> codec) {
+    fillValueBox(ui->cmbSampleRate, codec.get(), &ILMCodecPreset::SamplerateCount,
                  &ILMCodecPreset::SamplerateAt, &ILMCodecPreset::CurrentSamplerateIndex);
 }
 
-void LMFormatEditingWndCtrl::SetupFormatChannel(std::shared_ptr<ILMCodecPreset> codec) {
-    fillValueBox(d->ui.cmbChannel, codec.get(), &ILMCodecPreset::ChannelLayoutCount,
+void LMFormatEditingWndCtrlPrivate::SetupFormatChannel(std::shared_ptr<ILMCodecPreset> codec) {
+    fillValueBox(ui->cmbChannel, codec.get(), &ILMCodecPreset::ChannelLayoutCount,
                  &ILMCodecPreset::ChannelLayoutAt, &ILMCodecPreset::CurrentChannelLayoutIndex);
 }
 
-void LMFormatEditingWndCtrl::SetupFormatQuality(std::shared_ptr<ILMCodecPreset> codec,
-                                                QComboBox* box) {
+void LMFormatEditingWndCtrlPrivate::SetupFormatQuality(std::shared_ptr<ILMCodecPreset> codec,
+                                                       QComboBox* box) {
     if (!codec || !box)
         return;
     // The last level is the codec's archival setting, never offered here; box
@@ -394,104 +397,104 @@ void LMFormatEditingWndCtrl::SetupFormatQuality(std::shared_ptr<ILMCodecPreset> 
 
 // ---- Actions ---------------------------------------------------------------------
 
-std::shared_ptr<ILMCodecPreset> LMFormatEditingWndCtrl::currentCodec(bool audio) const {
-    if (!d->editingFormat)
+std::shared_ptr<ILMCodecPreset> LMFormatEditingWndCtrlPrivate::currentCodec(bool audio) const {
+    if (!editingFormat)
         return {};
-    return audio ? d->editingFormat->CurrentAudioCodec() : d->editingFormat->CurrentVideoCodec();
+    return audio ? editingFormat->CurrentAudioCodec() : editingFormat->CurrentVideoCodec();
 }
 
-void LMFormatEditingWndCtrl::changeEncoder(bool audio, int index) {
-    if (!d->editingFormat)
+void LMFormatEditingWndCtrlPrivate::changeEncoder(bool audio, int index) {
+    if (!editingFormat)
         return;
     if (audio)
-        d->editingFormat->SetCurrentAudioCodec(index);
+        editingFormat->SetCurrentAudioCodec(index);
     else
-        d->editingFormat->SetCurrentVideoCodec(index);
+        editingFormat->SetCurrentVideoCodec(index);
     setupCodec(audio, index);
 }
 
-void LMFormatEditingWndCtrl::VideoEncoderChangeAction(int index) {
+void LMFormatEditingWndCtrlPrivate::VideoEncoderChangeAction(int index) {
     changeEncoder(false, index);
 }
 
-void LMFormatEditingWndCtrl::AudioEncoderChangeAction(int index) {
+void LMFormatEditingWndCtrlPrivate::AudioEncoderChangeAction(int index) {
     changeEncoder(true, index);
 }
 
-void LMFormatEditingWndCtrl::VideoResolutionChangeAction(int index) {
+void LMFormatEditingWndCtrlPrivate::VideoResolutionChangeAction(int index) {
     if (auto codec = currentCodec(false))
         codec->SetCurrentResolution(index);
 }
 
-void LMFormatEditingWndCtrl::VideoFrameRateChangeAction(int index) {
+void LMFormatEditingWndCtrlPrivate::VideoFrameRateChangeAction(int index) {
     if (auto codec = currentCodec(false))
         codec->SetCurrentFramerate(index);
 }
 
-void LMFormatEditingWndCtrl::VideoQualityChangeAction(int index) {
+void LMFormatEditingWndCtrlPrivate::VideoQualityChangeAction(int index) {
     if (auto codec = currentCodec(false))
         codec->SetCurrentQuality(index);
 }
 
-void LMFormatEditingWndCtrl::AudioChannelChangeAction(int index) {
+void LMFormatEditingWndCtrlPrivate::AudioChannelChangeAction(int index) {
     if (auto codec = currentCodec(true))
         codec->SetCurrentChannelLayout(index);
 }
 
-void LMFormatEditingWndCtrl::AudioAampleRateChangeAction(int index) {
+void LMFormatEditingWndCtrlPrivate::AudioAampleRateChangeAction(int index) {
     if (auto codec = currentCodec(true))
         codec->SetCurrentSamplerate(index);
 }
 
-void LMFormatEditingWndCtrl::AudioQualityChangeAction(int index) {
+void LMFormatEditingWndCtrlPrivate::AudioQualityChangeAction(int index) {
     if (auto codec = currentCodec(true))
         codec->SetCurrentQuality(index);
 }
 
-void LMFormatEditingWndCtrl::ResetAction() {
-    d->editingFormat = d->originalFormat ? d->originalFormat->Clone() : nullptr;
+void LMFormatEditingWndCtrlPrivate::ResetAction() {
+    editingFormat = originalFormat ? originalFormat->Clone() : nullptr;
     SetupFormatSettings();
 }
 
-void LMFormatEditingWndCtrl::CancelAction() {
+void LMFormatEditingWndCtrlPrivate::CancelAction() {
     setBtnSaved(false);
-    QDialog::reject();
+    q->QDialog::reject();
 }
 
-void LMFormatEditingWndCtrl::SaveAction() {
-    if (!d->editingFormat || !d->originalFormat)
+void LMFormatEditingWndCtrlPrivate::SaveAction() {
+    if (!editingFormat || !originalFormat)
         return;
     auto source = ILMFmtPresetDataSource::Shared();
-    source->PushRecentItem(d->editingFormat, d->fmtNode);
+    source->PushRecentItem(editingFormat, fmtNode);
     source->SaveRecentList();
-    d->originalFormat->CopyFrom(d->editingFormat);
+    originalFormat->CopyFrom(editingFormat);
     setBtnSaved(true);
-    accept();
+    q->accept();
 }
 
-void LMFormatEditingWndCtrl::SaveAsNewPresetAction() {
+void LMFormatEditingWndCtrlPrivate::SaveAsNewPresetAction() {
     // One question at a time: the prompt blocks the editor until it is answered.
-    if (!d->editingFormat || (d->prompt && d->prompt->isVisible()))
+    if (!editingFormat || (prompt && prompt->isVisible()))
         return;
-    getNewPresetName(getAppName(), lizationMgr()->stringForKey(QStringLiteral("customSave")),
-                     GetDefaultCustomFormatName(), this, [this](const QString& name) {
-                         if (name.isEmpty() || !d->editingFormat)
+    getNewPresetName(getAppName(), q->lizationMgr()->stringForKey(QStringLiteral("customSave")),
+                     GetDefaultCustomFormatName(), q, [this](const QString& name) {
+                         if (name.isEmpty() || !editingFormat)
                              return;
-                         auto copy = d->editingFormat->Clone();
+                         auto copy = editingFormat->Clone();
                          copy->SetTitle(name.toStdString());
                          auto source = ILMFmtPresetDataSource::Shared();
-                         source->AddCustomPreset(copy, d->fmtNode);
+                         source->AddCustomPreset(copy, fmtNode);
                          source->SaveCustomList();
-                         if (d->delegate)
-                             d->delegate->formatEditingWndCtrlDidCreateFormatPreset(this);
+                         if (delegate)
+                             delegate->formatEditingWndCtrlDidCreateFormatPreset(q);
                      });
 }
 
 // ---- Naming a new preset ---------------------------------------------------------
 
-QString LMFormatEditingWndCtrl::GetDefaultCustomFormatName() const {
-    const std::string nodeTitle = d->fmtNode ? d->fmtNode->Title() : std::string();
-    const std::string presetTitle = d->editingFormat ? d->editingFormat->Title() : std::string();
+QString LMFormatEditingWndCtrlPrivate::GetDefaultCustomFormatName() const {
+    const std::string nodeTitle = fmtNode ? fmtNode->Title() : std::string();
+    const std::string presetTitle = editingFormat ? editingFormat->Title() : std::string();
     // "MP4 High Quality" under "MP4" names itself; "High Quality" needs its node's name.
     const std::string base =
         !presetTitle.empty() && presetTitle.find(nodeTitle) != std::string::npos ? presetTitle
@@ -503,7 +506,7 @@ QString LMFormatEditingWndCtrl::GetDefaultCustomFormatName() const {
     }
 }
 
-bool LMFormatEditingWndCtrl::HasDefind(const std::string& name) const {
+bool LMFormatEditingWndCtrlPrivate::HasDefind(const std::string& name) const {
     const auto root = ILMFmtPresetDataSource::Shared()->GetCustomList();
     for (int i = 0; root && i < root->ChildCount(); ++i) {
         const auto child = root->ChildAt(i);
@@ -513,53 +516,37 @@ bool LMFormatEditingWndCtrl::HasDefind(const std::string& name) const {
     return false;
 }
 
-void LMFormatEditingWndCtrl::getNewPresetName(const QString& message, const QString& label,
-                                              const QString& value, QWidget* window,
-                                              std::function<void(const QString&)> completeHandler) {
-    auto* prompt = new LMNewPresetPrompt(window);
-    prompt->setMessageText(message);
-    prompt->setInformativeText(label);
+void LMFormatEditingWndCtrlPrivate::getNewPresetName(
+    const QString& message, const QString& label, const QString& value, QWidget* window,
+    std::function<void(const QString&)> completeHandler) {
+    auto* question = new LMNewPresetPrompt(window);
+    question->setMessageText(message);
+    question->setInformativeText(label);
     LMNewPresetView* view = LMNewPresetView::creatNewPresetView();
     view->setStrValue(value);
-    prompt->setAccessoryView(view);
-    d->prompt = prompt;
-    prompt->beginSheetModalForWindow(window, [view = QPointer<LMNewPresetView>(view),
-                                              handler = std::move(completeHandler)](int response) {
-        if (!handler)
-            return;
-        const QString name = view ? view->strValue() : QString();
-        const bool named = response == LMNewPresetPrompt::FirstButtonReturn && !name.isEmpty();
-        handler(named ? name : QString());
-    });
+    question->setAccessoryView(view);
+    prompt = question;
+    question->beginSheetModalForWindow(
+        window, [view = QPointer<LMNewPresetView>(view),
+                 handler = std::move(completeHandler)](int response) {
+            if (!handler)
+                return;
+            const QString name = view ? view->strValue() : QString();
+            const bool named = response == LMNewPresetPrompt::FirstButtonReturn && !name.isEmpty();
+            handler(named ? name : QString());
+        });
 }
 
-QString LMFormatEditingWndCtrl::getAppName() {
+QString LMFormatEditingWndCtrlPrivate::getAppName() {
     const QString displayName = QGuiApplication::applicationDisplayName();
     return displayName.isEmpty() ? QCoreApplication::applicationName() : displayName;
 }
 
 // ---- Closing ---------------------------------------------------------------------
 
-void LMFormatEditingWndCtrl::reject() {
-    CancelAction();
-}
-
-void LMFormatEditingWndCtrl::done(int result) {
-    Q_UNUSED(result);
-    endSession();
-    // The session's outcome is what Save decided, whichever way the window closes.
-    QDialog::done(d->btnSaved ? QDialog::Accepted : QDialog::Rejected);
-}
-
-void LMFormatEditingWndCtrl::endSession() {
-    if (!d->inSession)
+void LMFormatEditingWndCtrlPrivate::endSession() {
+    if (!inSession)
         return;
-    d->inSession = false;
-    windowWillClose();
-}
-
-void LMFormatEditingWndCtrl::windowWillClose() {
-    // A question left open would outlive its editor; it answers "Cancel".
-    if (d->prompt)
-        d->prompt->reject();
+    inSession = false;
+    q->windowWillClose();
 }

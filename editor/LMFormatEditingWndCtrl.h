@@ -5,16 +5,13 @@
 #include <QDialog>
 #include <QString>
 
-#include <functional>
 #include <memory>
-#include <string>
 
 class LMFormatEditingWndCtrlDelegate;
+class LMFormatEditingWndCtrlPrivate;
 class LMFormatInternationalizationMgr;
-class QComboBox;
 
 namespace Lumeran {
-class ILMCodecPreset;
 class ILMFormatNode;
 class ILMFormatPreset;
 } // namespace Lumeran
@@ -43,8 +40,8 @@ public:
     explicit LMFormatEditingWndCtrl(QWidget* parent = nullptr);
     ~LMFormatEditingWndCtrl() override;
 
-    // The editor of the process, made on first use and deleted with the
-    // application object.
+    // The editor of the process, made on first use; it lasts as long as the
+    // process.
     static LMFormatEditingWndCtrl* shared();
 
     LMFormatInternationalizationMgr* lizationMgr() const;
@@ -62,52 +59,7 @@ public:
     // Whether the last session ended with Save.
     bool btnSaved() const;
 
-    // "Settings - <node> <preset>", without the node title when the preset
-    // title already holds it, and "Settings" alone without a preset.
-    QString getWindowTitle() const;
-
-    // Fill every box from the editing copy; without one, empty and disable all.
-    void SetupFormatSettings();
-    void SetupFormatVideoSettings();
-    void SetupFormatAudioSettings();
-    // Rebuild the three boxes that depend on the codec at index.
-    void SetupFormatVCodecSettings(int index);
-    void SetupFormatACodecSettings(int index);
-    void SetupFormatResolutions(std::shared_ptr<Lumeran::ILMCodecPreset> codec);
-    void SetupFormatFramerates(std::shared_ptr<Lumeran::ILMCodecPreset> codec);
-    void SetupFormatSamplerates(std::shared_ptr<Lumeran::ILMCodecPreset> codec);
-    void SetupFormatChannel(std::shared_ptr<Lumeran::ILMCodecPreset> codec);
-    void SetupFormatQuality(std::shared_ptr<Lumeran::ILMCodecPreset> codec, QComboBox* box);
-
-    // What the boxes do when the user picks the item at index.
-    void VideoEncoderChangeAction(int index);
-    void AudioEncoderChangeAction(int index);
-    void VideoResolutionChangeAction(int index);
-    void VideoFrameRateChangeAction(int index);
-    void VideoQualityChangeAction(int index);
-    void AudioChannelChangeAction(int index);
-    void AudioAampleRateChangeAction(int index);
-    void AudioQualityChangeAction(int index);
-
-    // The buttons, and Escape for CancelAction().
-    void ResetAction();
-    void CancelAction();
-    void SaveAction();
-    void SaveAsNewPresetAction();
-
-    // The node title plus "-custom<n>" (the preset title instead when it holds
-    // the node title) with the first n from 0 that no custom preset uses yet.
-    QString GetDefaultCustomFormatName() const;
-    // Whether a group of the custom list holds a preset of exactly this title.
-    bool HasDefind(const std::string& name) const;
-    // Asks for a name over window: message, informative label and an initial
-    // value. completeHandler receives the name, or a null string when the user
-    // cancelled or left the field empty. Returns at once.
-    void getNewPresetName(const QString& message, const QString& label, const QString& value,
-                          QWidget* window, std::function<void(const QString&)> completeHandler);
-    // The host application's display name (its plain name when it has none).
-    static QString getAppName();
-
+    // Cancels the session, as the Escape key does.
     void reject() override;
     void done(int result) override;
 
@@ -121,17 +73,6 @@ protected:
     virtual void windowWillClose();
 
 private:
-    void languageDidChanged();
-    void setBtnSaved(bool saved);
-    void placeOnScreen();
-    void endSession();
-    // The video and audio halves of the fill operations and actions, which
-    // differ only in their boxes and in the codec list they read.
-    void setupStream(bool audio);
-    void setupCodec(bool audio, int index);
-    void changeEncoder(bool audio, int index);
-    std::shared_ptr<Lumeran::ILMCodecPreset> currentCodec(bool audio) const;
-
-    struct Private;
-    std::unique_ptr<Private> d;
+    friend class LMFormatEditingWndCtrlPrivate;
+    std::unique_ptr<LMFormatEditingWndCtrlPrivate> d;
 };

@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
 # `make demo`: runs the demo host. With a display it opens the demo converter; on
-# a machine without one (or with DEMO_TOUR=1) it walks through the popup, the
-# editor and a conversion offscreen on a 1440 x 900 screen and writes a PNG of
-# every step to <build>/screenshots/, then the popup and editor steps once more
-# at twice the pixel density to <build>/screenshots/2x/.
+# a machine without one (or with DEMO_TOUR=1) the demo's tour (tools/demo-tour)
+# walks through the popup, the editor and a conversion offscreen on a 1440 x 900
+# screen and writes a PNG of every step to <build>/screenshots/, then the popup
+# and editor steps once more at twice the pixel density to <build>/screenshots/2x/.
 set -euo pipefail
 build=${1:-build}
 host="$build/examples/demo-host/lmfp-demo-host"
+tour="$build/tools/demo-tour/lmfp_demo_tour"
 shots="$build/screenshots"
 
 if [[ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" && -z "${DEMO_TOUR:-}" ]]; then
@@ -26,8 +27,8 @@ screen_config "$build/offscreen-1x.json" 1
 screen_config "$build/offscreen-2x.json" 2
 # The offscreen platform cannot raise windows and says so for every popup.
 export QT_LOGGING_RULES="${QT_LOGGING_RULES:-qt.qpa.*=false}"
-QT_QPA_PLATFORM="offscreen:configfile=$build/offscreen-1x.json" "$host" --tour "$shots" 2>&1 |
+QT_QPA_PLATFORM="offscreen:configfile=$build/offscreen-1x.json" "$tour" "$shots" 2>&1 |
     grep -v "does not support" || true
-QT_QPA_PLATFORM="offscreen:configfile=$build/offscreen-2x.json" "$host" --tour "$shots/2x" \
-    --tour-without-conversion 2>&1 | grep -v "does not support" || true
+QT_QPA_PLATFORM="offscreen:configfile=$build/offscreen-2x.json" "$tour" "$shots/2x" \
+    --without-conversion 2>&1 | grep -v "does not support" || true
 ls "$shots"/*.png "$shots"/2x/*.png > /dev/null

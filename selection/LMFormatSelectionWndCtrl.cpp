@@ -1,6 +1,6 @@
 #include "LMFormatSelectionWndCtrl.h"
 
-#include "LMSharedSelectionWindow_p.h"
+#include "LMFormatSelectionWndCtrl_p.h"
 
 #include "ILMArtworkImageGroupAdapter.h"
 #include "ILMArtworkImageMgr.h"
@@ -10,6 +10,7 @@
 #include "LMFormatEditingWndCtrl.h"
 #include "LMFormatInternationalizationMgr.h"
 #include "LMProgressIndicator.h"
+#include "LMSingleton.h"
 #include "LMTabHeaderView.h"
 #include "ui_LMFormatSelectionWndCtrl.h"
 
@@ -68,293 +69,114 @@ QRect VisibleFrameFor(const QWidget* window, const QRectF& anchor) {
 
 namespace {
 
-LMFormatSelectionWndCtrl*& SharedInstance() {
-    static LMFormatSelectionWndCtrl* instance = nullptr;
-    return instance;
-}
+constinit Lumeran::LMSingleton<LMFormatSelectionWndCtrl> s_window{
+    &LMFormatSelectionWndCtrlPrivate::make};
 
 } // namespace
 
-LMFormatSelectionWndCtrl* LMFormatSelectionWndCtrl::shared() {
-    LMFormatSelectionWndCtrl*& instance = SharedInstance();
-    if (!instance) {
-        instance = new LMFormatSelectionWndCtrl();
-        instance->m_ui->tabHeaderView->setDelegate(instance);
-    }
-    return instance;
-}
+// ---- The window --------------------------------------------------------------------
 
-void Lumeran::LMSharedSelectionWindow::ResetForTesting() {
-    delete std::exchange(SharedInstance(), nullptr);
+LMFormatSelectionWndCtrl* LMFormatSelectionWndCtrl::shared() {
+    return s_window.Instance().get();
 }
 
 LMFormatSelectionWndCtrl::LMFormatSelectionWndCtrl()
     : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
-      m_ui(std::make_unique<Ui::LMFormatSelectionWndCtrl>()) {
-    m_ui->setupUi(this);
+      d(std::make_unique<LMFormatSelectionWndCtrlPrivate>(this)) {
+    d->ui->setupUi(this);
     setObjectName(QStringLiteral("LMFormatSelectionWndCtrl"));
     setAttribute(Qt::WA_QuitOnClose, false);
     resize(int(defWidth), int(defHeight));
-    windowDidLoad();
+    d->windowDidLoad();
 }
 
 LMFormatSelectionWndCtrl::~LMFormatSelectionWndCtrl() = default;
 
-void LMFormatSelectionWndCtrl::windowDidLoad() {
-    m_ui->loadPrgInd->startAnimation();
-    LMFormatEditingWndCtrl::shared()->setDelegate(this);
-    m_ui->contentView->installEventFilter(this);
-    m_ui->contentView->setAutoFillBackground(false);
-
-    QLineEdit* field = m_ui->searchField;
-    field->addAction(SearchIcon(palette().color(QPalette::PlaceholderText)),
-                     QLineEdit::LeadingPosition);
-    field->setEnabled(m_enableSearch);
-    // The field and searchText mirror each other: typing searches at once,
-    // while a programmatic change (a tab switch clearing it) searches nothing.
-    connect(field, &QLineEdit::textEdited, this, [this](const QString& text) {
-        setSearchText(text);
-        onSearchAction();
-    });
-    connect(this, &LMFormatSelectionWndCtrl::searchTextChanged, field,
-            [field](const QString& text) {
-                if (field->text() != text)
-                    field->setText(text);
-            });
-    connect(this, &LMFormatSelectionWndCtrl::enableSearchChanged, field, &QWidget::setEnabled);
-    connect(lizationMgr(), &LMFormatInternationalizationMgr::languageDidChange, this,
-            &LMFormatSelectionWndCtrl::retranslate);
-    retranslate();
-}
-
-void LMFormatSelectionWndCtrl::retranslate() {
-    const QString search = lizationMgr()->stringForKey(QStringLiteral("Search"));
-    m_ui->searchField->setPlaceholderText(search);
-    m_ui->searchField->setAccessibleName(search);
-    setWindowTitle(lizationMgr()->stringForKey(QStringLiteral("Choose a format")));
-    setAccessibleName(windowTitle());
-    if (m_ui->loadPrgInd)
-        m_ui->loadPrgInd->setAccessibleName(
-            lizationMgr()->stringForKey(QStringLiteral("Loading formats…")));
-}
-
 void LMFormatSelectionWndCtrl::popupSelection(const QRectF& rect, CompleteHandler handler) {
-    m_completeHandler = std::move(handler);
-    reloadCustomIfReplaced();
-    m_finishedSelecting = false;
+    d->completeHandler = std::move(handler);
+    d->reloadCustomIfReplaced();
+    d->finishedSelecting = false;
     setGeometry(frameFromRect(rect));
-    popupAgain();
-}
-
-void LMFormatSelectionWndCtrl::popupAgain() {
-    show();
-    raise();
-    activateWindow();
-    // Clicks in the host's windows end the showing, as they would take the key
-    // window away from a native popup.
-    qApp->installEventFilter(this);
-}
-
-QRect LMFormatSelectionWndCtrl::frameFromRect(const QRectF& rect) const {
-    return frameFromRect(rect, VisibleFrameFor(this, rect));
-}
-
-QRect LMFormatSelectionWndCtrl::frameFromRect(const QRectF& r, const QRect& visibleFrame) {
-    // Screen coordinates grow downwards: "below" the anchor is a larger y.
-    const QRectF v(visibleFrame);
-    double x = r.x() + r.width() * 0.5 - defWidth / 2.0;
-    double y = r.y() + r.height();
-    if (y + defHeight > v.y() + v.height()) {
-        if (r.y() - defHeight <= v.y())
-            y = v.y() + v.height() - defHeight; // no room above either: sit on the bottom
-        else
-            y = r.y() - defHeight; // above the anchor, its bottom on the anchor's top
-    }
-    if (x + defWidth > v.x() + v.width())
-        x = v.x() + v.width() - defWidth;
-    else if (x < v.x())
-        x = v.x();
-    return QRectF(x, y, defWidth, defHeight).toRect();
+    d->popupAgain();
 }
 
 void LMFormatSelectionWndCtrl::loadExternalDataInMainThread() {
-    if (LMProgressIndicator* indicator = m_ui->loadPrgInd) {
+    if (LMProgressIndicator* indicator = d->ui->loadPrgInd) {
         indicator->stopAnimation();
         indicator->hide();
         indicator->deleteLater();
-        m_ui->loadPrgInd = nullptr;
+        d->ui->loadPrgInd = nullptr;
     }
-    LMTabHeaderView* strip = m_ui->tabHeaderView;
+    LMTabHeaderView* strip = d->ui->tabHeaderView;
     strip->clearTab();
     setEnableSearch(true);
 
     auto source = ILMFmtPresetDataSource::Shared();
     strip->addTab(QStringLiteral("Recent"), TabImage(ILMArtworkImageMgr::CategoryFaceIDRecentList));
-    recentFmtViewCtrl()->loadRecentList();
+    d->recentFmtViewCtrl()->loadRecentList();
     strip->addTab(QStringLiteral("Custom"), TabImage(ILMArtworkImageMgr::CategoryFaceIDCustomize));
-    customFmtViewCtrl()->loadFormatNode(source->GetCustomList());
+    d->customFmtViewCtrl()->loadFormatNode(source->GetCustomList());
 
-    cleanDefFormats();
-    setupDefaultFormats();
+    d->cleanDefFormats();
+    d->setupDefaultFormats();
 
-    setCurrentFormatNode(source->GetRecentList().empty() ? 1 : 0);
+    d->setCurrentFormatNode(source->GetRecentList().empty() ? 1 : 0);
 }
 
-void LMFormatSelectionWndCtrl::setupDefaultFormats() {
-    const std::shared_ptr<ILMFormatNode> root =
-        ILMFmtPresetDataSource::Shared()->GetExternalFormatPresets();
-    if (!root)
-        return;
-    for (int i = 0; i < root->ChildCount(); ++i) {
-        const std::shared_ptr<const ILMFormatNode> child = std::as_const(*root).ChildAt(i);
-        LMFmtNodeViewCtrl* ctrl = LMFmtNodeViewCtrl::fmtNodeViewCtrl(m_ui->contentView);
-        ctrl->hide();
-        ctrl->setRemovable(false);
-        ctrl->loadFormatNode(child);
-        ctrl->setDelegate(this);
-        connect(ctrl, &LMFmtNodeViewCtrl::textTyped, this,
-                &LMFormatSelectionWndCtrl::takeTypedText);
-        m_defFmtViewCtrls.append(ctrl);
-        // Each category goes just before the last tab, "Custom".
-        const std::size_t index = m_ui->tabHeaderView->countOfTab() - 1;
-        m_ui->tabHeaderView->insertTab(QString::fromStdString(child->Title()),
-                                       TabImage(child->FaceID()), index);
-    }
-}
-
-void LMFormatSelectionWndCtrl::cleanDefFormats() {
-    for (LMFmtNodeViewCtrl* ctrl : std::as_const(m_defFmtViewCtrls)) {
-        ctrl->hide();
-        ctrl->deleteLater();
-    }
-    m_defFmtViewCtrls.clear();
-}
-
-QWidget* LMFormatSelectionWndCtrl::currentFormatNodeView() const {
-    for (QObject* child : m_ui->contentView->children()) {
-        auto* view = qobject_cast<QWidget*>(child);
-        // Lists that are not current are hidden rather than taken out, so a
-        // switch back costs no re-layout.
-        if (view && view != m_ui->tabHeaderView && !view->isHidden())
-            return view;
-    }
-    return nullptr;
-}
-
-QRect LMFormatSelectionWndCtrl::frameOfFormatNodeView() const {
-    const QRect bounds = m_ui->contentView ? m_ui->contentView->rect() : QRect();
-    const QRect header = m_ui->tabHeaderView ? m_ui->tabHeaderView->geometry() : QRect();
-    // The list fills the content below the strip.
-    return {bounds.x(), bounds.y() + header.height(), bounds.width(),
-            bounds.height() - header.height()};
-}
-
-void LMFormatSelectionWndCtrl::setCurrentFormatNode(qsizetype index) {
-    if (index < 0)
-        index = 0;
-    QWidget* old = currentFormatNodeView();
-    QWidget* next = nullptr;
-    const qsizetype categories = m_defFmtViewCtrls.size();
-    if (index == 0)
-        next = recentFmtViewCtrl()->view();
-    else if (index - 1 < categories)
-        next = m_defFmtViewCtrls.at(index - 1)->view();
-    else if (index - 1 == categories)
-        next = customFmtViewCtrl()->view();
-    if (!next)
-        return;
-
-    setSearchText(QString());
-    next->setGeometry(frameOfFormatNodeView());
-    if (old && old != next)
-        old->hide();
-    next->show();
-    m_ui->tabHeaderView->setIndexOfSelected(std::size_t(index));
-}
-
-void LMFormatSelectionWndCtrl::tabHeaderViewSelectionDidChanged(LMTabHeaderView* header) {
-    setCurrentFormatNode(qsizetype(header->indexOfSelected()));
-}
-
-void LMFormatSelectionWndCtrl::onSearchAction() {
-    const std::size_t selected = m_ui->tabHeaderView->indexOfSelected();
-    const QString text = searchText();
-    if (selected == 0)
-        recentFmtViewCtrl()->searchRecentList(text);
-    else if (selected <= std::size_t(m_defFmtViewCtrls.size()))
-        m_defFmtViewCtrls.at(qsizetype(selected) - 1)->searchFormatNode(text);
-    else
-        customFmtViewCtrl()->searchFormatNode(text);
-}
-
-void LMFormatSelectionWndCtrl::viewControllerSelectFormat(
-    QObject*, std::shared_ptr<const ILMFormatPreset> preset,
-    std::shared_ptr<const ILMFormatNode> node) {
-    // Set before hiding, so the loss of focus that follows reports nothing.
-    m_finishedSelecting = true;
-    hide();
-    completeSelection(std::move(preset), std::move(node));
-}
-
-void LMFormatSelectionWndCtrl::viewControllerEditingFormat(QObject*,
-                                                           std::shared_ptr<ILMFormatPreset> preset,
-                                                           std::shared_ptr<ILMFormatNode> node) {
-    m_finishedSelecting = true;
-    qApp->removeEventFilter(this);
-    hide();
-    if (LMFormatEditingWndCtrl::shared()->startEditing(preset, node)) {
-        completeSelection(preset, node);
-        return;
-    }
-    popupAgain();
-    m_finishedSelecting = false;
-}
-
-// A save that merged in what another copy of the host stored, or a restored
-// backup, replaces the custom tree the tab was showing.
-void LMFormatSelectionWndCtrl::reloadCustomIfReplaced() {
-    if (m_ui->tabHeaderView->countOfTab() == 0)
-        return; // the tabs are not built yet; they will be from the current tree
-    const auto custom = std::as_const(*ILMFmtPresetDataSource::Shared()).GetCustomList();
-    if (customFmtViewCtrl()->formatNode() != custom)
-        customFmtViewCtrl()->loadFormatNode(custom);
-}
-
-void LMFormatSelectionWndCtrl::formatEditingWndCtrlDidCreateFormatPreset(LMFormatEditingWndCtrl*) {
-    customFmtViewCtrl()->loadFormatNode(ILMFmtPresetDataSource::Shared()->GetCustomList());
-}
-
-void LMFormatSelectionWndCtrl::completeSelection(std::shared_ptr<const ILMFormatPreset> preset,
-                                                 std::shared_ptr<const ILMFormatNode> node) {
-    if (preset && node) {
-        auto source = ILMFmtPresetDataSource::Shared();
-        source->PushRecentItem(preset, node);
-        source->SaveRecentList();
-        recentFmtViewCtrl()->loadRecentList();
-    }
-    if (m_completeHandler)
-        m_completeHandler(preset, node);
+QRect LMFormatSelectionWndCtrl::frameFromRect(const QRectF& rect) const {
+    return LMFormatSelectionWndCtrlPrivate::frameFromRect(rect, VisibleFrameFor(this, rect));
 }
 
 void LMFormatSelectionWndCtrl::windowDidResignKey() {
     qApp->removeEventFilter(this);
     hide();
-    if (!m_finishedSelecting) {
+    if (!d->finishedSelecting) {
         // A dismissal ends this showing too: a second loss of focus while hidden
         // must not report it again.
-        m_finishedSelecting = true;
-        completeSelection({}, {});
+        d->finishedSelecting = true;
+        d->completeSelection({}, {});
     }
 }
 
-void LMFormatSelectionWndCtrl::takeTypedText(const QString& text) {
-    QLineEdit* field = m_ui->searchField;
-    if (!field->isEnabled())
+void LMFormatSelectionWndCtrl::onSearchAction() {
+    const std::size_t selected = d->ui->tabHeaderView->indexOfSelected();
+    const QString text = searchText();
+    if (selected == 0)
+        d->recentFmtViewCtrl()->searchRecentList(text);
+    else if (selected <= std::size_t(d->m_defFmtViewCtrls.size()))
+        d->m_defFmtViewCtrls.at(qsizetype(selected) - 1)->searchFormatNode(text);
+    else
+        d->customFmtViewCtrl()->searchFormatNode(text);
+}
+
+bool LMFormatSelectionWndCtrl::finishedSelecting() const {
+    return d->finishedSelecting;
+}
+
+QString LMFormatSelectionWndCtrl::searchText() const {
+    return d->searchText;
+}
+
+void LMFormatSelectionWndCtrl::setSearchText(const QString& text) {
+    if (d->searchText == text)
         return;
-    field->setFocus(Qt::OtherFocusReason);
-    field->insert(text);
-    setSearchText(field->text());
-    onSearchAction();
+    d->searchText = text;
+    Q_EMIT searchTextChanged(d->searchText);
+}
+
+bool LMFormatSelectionWndCtrl::enableSearch() const {
+    return d->enableSearch;
+}
+
+void LMFormatSelectionWndCtrl::setEnableSearch(bool enable) {
+    if (d->enableSearch == enable)
+        return;
+    d->enableSearch = enable;
+    Q_EMIT enableSearchChanged(d->enableSearch);
+}
+
+LMFormatInternationalizationMgr* LMFormatSelectionWndCtrl::lizationMgr() const {
+    return LMFormatInternationalizationMgr::sharedObject();
 }
 
 bool LMFormatSelectionWndCtrl::event(QEvent* event) {
@@ -364,17 +186,8 @@ bool LMFormatSelectionWndCtrl::event(QEvent* event) {
 }
 
 bool LMFormatSelectionWndCtrl::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == m_ui->contentView && event->type() == QEvent::Resize) {
-        m_ui->tabHeaderView->resize(m_ui->contentView->width(), m_ui->tabHeaderView->height());
-        if (LMProgressIndicator* indicator = m_ui->loadPrgInd) {
-            // Until the data arrives the indicator is the content; it stays small
-            // and in the middle of the list's place.
-            QRect spot(QPoint(), indicator->sizeHint());
-            spot.moveCenter(frameOfFormatNodeView().center());
-            indicator->setGeometry(spot);
-        } else if (QWidget* current = currentFormatNodeView()) {
-            current->setGeometry(frameOfFormatNodeView());
-        }
+    if (watched == d->ui->contentView && event->type() == QEvent::Resize) {
+        d->layOutContent();
     } else if (event->type() == QEvent::MouseButtonPress && isVisible()) {
         const auto* widget = qobject_cast<QWidget*>(watched);
         const QWidget* window = widget ? widget->window() : nullptr;
@@ -402,75 +215,282 @@ void LMFormatSelectionWndCtrl::paintEvent(QPaintEvent*) {
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
-LMTabHeaderView* LMFormatSelectionWndCtrl::tabHeaderView() const {
-    return m_ui->tabHeaderView;
+// ---- Its insides -------------------------------------------------------------------
+
+LMFormatSelectionWndCtrlPrivate::LMFormatSelectionWndCtrlPrivate(LMFormatSelectionWndCtrl* owner)
+    : q(owner), ui(std::make_unique<Ui::LMFormatSelectionWndCtrl>()) {}
+
+LMFormatSelectionWndCtrlPrivate::~LMFormatSelectionWndCtrlPrivate() = default;
+
+LMFormatSelectionWndCtrlPrivate*
+LMFormatSelectionWndCtrlPrivate::get(LMFormatSelectionWndCtrl* ctrl) {
+    return ctrl ? ctrl->d.get() : nullptr;
 }
 
-LMFmtNodeViewCtrl* LMFormatSelectionWndCtrl::customFmtViewCtrl() {
+std::shared_ptr<LMFormatSelectionWndCtrl> LMFormatSelectionWndCtrlPrivate::make() {
+    std::shared_ptr<LMFormatSelectionWndCtrl> window(new LMFormatSelectionWndCtrl());
+    window->d->ui->tabHeaderView->setDelegate(window->d.get());
+    return window;
+}
+
+void LMFormatSelectionWndCtrlPrivate::windowDidLoad() {
+    ui->loadPrgInd->startAnimation();
+    LMFormatEditingWndCtrl::shared()->setDelegate(this);
+    ui->contentView->installEventFilter(q);
+    ui->contentView->setAutoFillBackground(false);
+
+    QLineEdit* field = ui->searchField;
+    field->addAction(SearchIcon(q->palette().color(QPalette::PlaceholderText)),
+                     QLineEdit::LeadingPosition);
+    field->setEnabled(enableSearch);
+    // The field and searchText mirror each other: typing searches at once,
+    // while a programmatic change (a tab switch clearing it) searches nothing.
+    QObject::connect(field, &QLineEdit::textEdited, q, [this](const QString& text) {
+        q->setSearchText(text);
+        q->onSearchAction();
+    });
+    QObject::connect(q, &LMFormatSelectionWndCtrl::searchTextChanged, field,
+                     [field](const QString& text) {
+                         if (field->text() != text)
+                             field->setText(text);
+                     });
+    QObject::connect(q, &LMFormatSelectionWndCtrl::enableSearchChanged, field,
+                     &QWidget::setEnabled);
+    QObject::connect(q->lizationMgr(), &LMFormatInternationalizationMgr::languageDidChange, q,
+                     [this] { retranslate(); });
+    retranslate();
+}
+
+void LMFormatSelectionWndCtrlPrivate::retranslate() {
+    LMFormatInternationalizationMgr* mgr = q->lizationMgr();
+    const QString search = mgr->stringForKey(QStringLiteral("Search"));
+    ui->searchField->setPlaceholderText(search);
+    ui->searchField->setAccessibleName(search);
+    q->setWindowTitle(mgr->stringForKey(QStringLiteral("Choose a format")));
+    q->setAccessibleName(q->windowTitle());
+    if (ui->loadPrgInd)
+        ui->loadPrgInd->setAccessibleName(mgr->stringForKey(QStringLiteral("Loading formats…")));
+}
+
+void LMFormatSelectionWndCtrlPrivate::popupAgain() {
+    q->show();
+    q->raise();
+    q->activateWindow();
+    // Clicks in the host's windows end the showing, as they would take the key
+    // window away from a native popup.
+    qApp->installEventFilter(q);
+}
+
+QRect LMFormatSelectionWndCtrlPrivate::frameFromRect(const QRectF& r, const QRect& visibleFrame) {
+    constexpr double defWidth = LMFormatSelectionWndCtrl::defWidth;
+    constexpr double defHeight = LMFormatSelectionWndCtrl::defHeight;
+    // Screen coordinates grow downwards: "below" the anchor is a larger y.
+    const QRectF v(visibleFrame);
+    double x = r.x() + r.width() * 0.5 - defWidth / 2.0;
+    double y = r.y() + r.height();
+    if (y + defHeight > v.y() + v.height()) {
+        if (r.y() - defHeight <= v.y())
+            y = v.y() + v.height() - defHeight; // no room above either: sit on the bottom
+        else
+            y = r.y() - defHeight; // above the anchor, its bottom on the anchor's top
+    }
+    if (x + defWidth > v.x() + v.width())
+        x = v.x() + v.width() - defWidth;
+    else if (x < v.x())
+        x = v.x();
+    return QRectF(x, y, defWidth, defHeight).toRect();
+}
+
+void LMFormatSelectionWndCtrlPrivate::setupDefaultFormats() {
+    const std::shared_ptr<ILMFormatNode> root =
+        ILMFmtPresetDataSource::Shared()->GetExternalFormatPresets();
+    if (!root)
+        return;
+    for (int i = 0; i < root->ChildCount(); ++i) {
+        const std::shared_ptr<const ILMFormatNode> child = std::as_const(*root).ChildAt(i);
+        LMFmtNodeViewCtrl* ctrl = LMFmtNodeViewCtrl::fmtNodeViewCtrl(ui->contentView);
+        ctrl->hide();
+        ctrl->setRemovable(false);
+        ctrl->loadFormatNode(child);
+        ctrl->setDelegate(this);
+        listenTo(ctrl);
+        m_defFmtViewCtrls.append(ctrl);
+        // Each category goes just before the last tab, "Custom".
+        const std::size_t index = ui->tabHeaderView->countOfTab() - 1;
+        ui->tabHeaderView->insertTab(QString::fromStdString(child->Title()),
+                                     TabImage(child->FaceID()), index);
+    }
+}
+
+void LMFormatSelectionWndCtrlPrivate::cleanDefFormats() {
+    for (LMFmtNodeViewCtrl* ctrl : std::as_const(m_defFmtViewCtrls)) {
+        ctrl->hide();
+        ctrl->deleteLater();
+    }
+    m_defFmtViewCtrls.clear();
+}
+
+QWidget* LMFormatSelectionWndCtrlPrivate::currentFormatNodeView() const {
+    for (QObject* child : ui->contentView->children()) {
+        auto* view = qobject_cast<QWidget*>(child);
+        // Lists that are not current are hidden rather than taken out, so a
+        // switch back costs no re-layout.
+        if (view && view != ui->tabHeaderView && !view->isHidden())
+            return view;
+    }
+    return nullptr;
+}
+
+QRect LMFormatSelectionWndCtrlPrivate::frameOfFormatNodeView() const {
+    const QRect bounds = ui->contentView ? ui->contentView->rect() : QRect();
+    const QRect header = ui->tabHeaderView ? ui->tabHeaderView->geometry() : QRect();
+    // The list fills the content below the strip.
+    return {bounds.x(), bounds.y() + header.height(), bounds.width(),
+            bounds.height() - header.height()};
+}
+
+void LMFormatSelectionWndCtrlPrivate::layOutContent() {
+    ui->tabHeaderView->resize(ui->contentView->width(), ui->tabHeaderView->height());
+    if (LMProgressIndicator* indicator = ui->loadPrgInd) {
+        // Until the data arrives the indicator is the content; it stays small
+        // and in the middle of the list's place.
+        QRect spot(QPoint(), indicator->sizeHint());
+        spot.moveCenter(frameOfFormatNodeView().center());
+        indicator->setGeometry(spot);
+    } else if (QWidget* current = currentFormatNodeView()) {
+        current->setGeometry(frameOfFormatNodeView());
+    }
+}
+
+void LMFormatSelectionWndCtrlPrivate::setCurrentFormatNode(qsizetype index) {
+    if (index < 0)
+        index = 0;
+    QWidget* old = currentFormatNodeView();
+    QWidget* next = nullptr;
+    const qsizetype categories = m_defFmtViewCtrls.size();
+    if (index == 0)
+        next = recentFmtViewCtrl()->view();
+    else if (index - 1 < categories)
+        next = m_defFmtViewCtrls.at(index - 1)->view();
+    else if (index - 1 == categories)
+        next = customFmtViewCtrl()->view();
+    if (!next)
+        return;
+
+    q->setSearchText(QString());
+    next->setGeometry(frameOfFormatNodeView());
+    if (old && old != next)
+        old->hide();
+    next->show();
+    ui->tabHeaderView->setIndexOfSelected(std::size_t(index));
+}
+
+void LMFormatSelectionWndCtrlPrivate::tabHeaderViewSelectionDidChanged(LMTabHeaderView* header) {
+    setCurrentFormatNode(qsizetype(header->indexOfSelected()));
+}
+
+void LMFormatSelectionWndCtrlPrivate::viewControllerSelectFormat(
+    QObject*, std::shared_ptr<const ILMFormatPreset> preset,
+    std::shared_ptr<const ILMFormatNode> node) {
+    // Set before hiding, so the loss of focus that follows reports nothing.
+    finishedSelecting = true;
+    q->hide();
+    completeSelection(std::move(preset), std::move(node));
+}
+
+void LMFormatSelectionWndCtrlPrivate::viewControllerEditingFormat(
+    QObject*, std::shared_ptr<ILMFormatPreset> preset, std::shared_ptr<ILMFormatNode> node) {
+    finishedSelecting = true;
+    qApp->removeEventFilter(q);
+    q->hide();
+    if (LMFormatEditingWndCtrl::shared()->startEditing(preset, node)) {
+        completeSelection(preset, node);
+        return;
+    }
+    popupAgain();
+    finishedSelecting = false;
+}
+
+// A save that merged in what another copy of the host stored, or a restored
+// backup, replaces the custom tree the tab was showing.
+void LMFormatSelectionWndCtrlPrivate::reloadCustomIfReplaced() {
+    if (ui->tabHeaderView->countOfTab() == 0)
+        return; // the tabs are not built yet; they will be from the current tree
+    const auto custom = std::as_const(*ILMFmtPresetDataSource::Shared()).GetCustomList();
+    if (customFmtViewCtrl()->formatNode() != custom)
+        customFmtViewCtrl()->loadFormatNode(custom);
+}
+
+void LMFormatSelectionWndCtrlPrivate::formatEditingWndCtrlDidCreateFormatPreset(
+    LMFormatEditingWndCtrl*) {
+    customFmtViewCtrl()->loadFormatNode(ILMFmtPresetDataSource::Shared()->GetCustomList());
+}
+
+void LMFormatSelectionWndCtrlPrivate::completeSelection(
+    std::shared_ptr<const ILMFormatPreset> preset, std::shared_ptr<const ILMFormatNode> node) {
+    if (preset && node) {
+        auto source = ILMFmtPresetDataSource::Shared();
+        source->PushRecentItem(preset, node);
+        source->SaveRecentList();
+        recentFmtViewCtrl()->loadRecentList();
+    }
+    if (completeHandler)
+        completeHandler(preset, node);
+}
+
+void LMFormatSelectionWndCtrlPrivate::takeTypedText(const QString& text) {
+    QLineEdit* field = ui->searchField;
+    if (!field->isEnabled())
+        return;
+    field->setFocus(Qt::OtherFocusReason);
+    field->insert(text);
+    q->setSearchText(field->text());
+    q->onSearchAction();
+}
+
+void LMFormatSelectionWndCtrlPrivate::listenTo(LMFmtNodeViewCtrl* ctrl) {
+    QObject::connect(ctrl, &LMFmtNodeViewCtrl::textTyped, q,
+                     [this](const QString& text) { takeTypedText(text); });
+}
+
+LMTabHeaderView* LMFormatSelectionWndCtrlPrivate::tabHeaderView() const {
+    return ui->tabHeaderView;
+}
+
+LMFmtNodeViewCtrl* LMFormatSelectionWndCtrlPrivate::customFmtViewCtrl() {
     if (!m_customFmtViewCtrl) {
-        m_customFmtViewCtrl = LMFmtNodeViewCtrl::fmtNodeViewCtrl(m_ui->contentView);
+        m_customFmtViewCtrl = LMFmtNodeViewCtrl::fmtNodeViewCtrl(ui->contentView);
         m_customFmtViewCtrl->hide();
         m_customFmtViewCtrl->setDelegate(this);
         m_customFmtViewCtrl->setRemovable(true);
-        connect(m_customFmtViewCtrl, &LMFmtNodeViewCtrl::textTyped, this,
-                &LMFormatSelectionWndCtrl::takeTypedText);
+        listenTo(m_customFmtViewCtrl);
     }
     return m_customFmtViewCtrl;
 }
 
-LMFmtRecentViewCtrl* LMFormatSelectionWndCtrl::recentFmtViewCtrl() {
+LMFmtRecentViewCtrl* LMFormatSelectionWndCtrlPrivate::recentFmtViewCtrl() {
     if (!m_recentFmtViewCtrl) {
-        m_recentFmtViewCtrl = LMFmtRecentViewCtrl::fmtRecentViewCtrl(m_ui->contentView);
+        m_recentFmtViewCtrl = LMFmtRecentViewCtrl::fmtRecentViewCtrl(ui->contentView);
         m_recentFmtViewCtrl->hide();
         m_recentFmtViewCtrl->setDelegate(this);
-        connect(m_recentFmtViewCtrl, &LMFmtRecentViewCtrl::textTyped, this,
-                &LMFormatSelectionWndCtrl::takeTypedText);
+        QObject::connect(m_recentFmtViewCtrl, &LMFmtRecentViewCtrl::textTyped, q,
+                         [this](const QString& text) { takeTypedText(text); });
     }
     return m_recentFmtViewCtrl;
 }
 
-const QList<LMFmtNodeViewCtrl*>& LMFormatSelectionWndCtrl::defFmtViewCtrls() const {
+const QList<LMFmtNodeViewCtrl*>& LMFormatSelectionWndCtrlPrivate::defFmtViewCtrls() const {
     return m_defFmtViewCtrls;
 }
 
-LMProgressIndicator* LMFormatSelectionWndCtrl::loadPrgInd() const {
-    return m_ui->loadPrgInd;
+LMProgressIndicator* LMFormatSelectionWndCtrlPrivate::loadPrgInd() const {
+    return ui->loadPrgInd;
 }
 
-QLineEdit* LMFormatSelectionWndCtrl::searchField() const {
-    return m_ui->searchField;
+QLineEdit* LMFormatSelectionWndCtrlPrivate::searchField() const {
+    return ui->searchField;
 }
 
-QWidget* LMFormatSelectionWndCtrl::contentView() const {
-    return m_ui->contentView;
-}
-
-bool LMFormatSelectionWndCtrl::finishedSelecting() const {
-    return m_finishedSelecting;
-}
-
-QString LMFormatSelectionWndCtrl::searchText() const {
-    return m_searchText;
-}
-
-void LMFormatSelectionWndCtrl::setSearchText(const QString& text) {
-    if (m_searchText == text)
-        return;
-    m_searchText = text;
-    Q_EMIT searchTextChanged(m_searchText);
-}
-
-bool LMFormatSelectionWndCtrl::enableSearch() const {
-    return m_enableSearch;
-}
-
-void LMFormatSelectionWndCtrl::setEnableSearch(bool enable) {
-    if (m_enableSearch == enable)
-        return;
-    m_enableSearch = enable;
-    Q_EMIT enableSearchChanged(m_enableSearch);
-}
-
-LMFormatInternationalizationMgr* LMFormatSelectionWndCtrl::lizationMgr() const {
-    return LMFormatInternationalizationMgr::sharedObject();
+QWidget* LMFormatSelectionWndCtrlPrivate::contentView() const {
+    return ui->contentView;
 }

@@ -2,27 +2,18 @@
 
 #include "ILMFormatNode.h"
 #include "ILMFormatPreset.h"
-#include "LMFormatDataDelegate.h"
-#include "LMFormatEditingWndCtrlDelegate.h"
 #include "LMSelectionExport.h"
-#include "LMTabHeaderViewDelegate.h"
 
-#include <QList>
+#include <QRect>
 #include <QRectF>
+#include <QString>
 #include <QWidget>
 
 #include <functional>
 #include <memory>
 
-class LMFmtNodeViewCtrl;
-class LMFmtRecentViewCtrl;
 class LMFormatInternationalizationMgr;
-class LMProgressIndicator;
-class LMTabHeaderView;
-class QLineEdit;
-namespace Ui {
-class LMFormatSelectionWndCtrl;
-}
+class LMFormatSelectionWndCtrlPrivate;
 
 // The format selection popup: a frameless, always-on-top window of 800 x 450
 // with the tab strip ("Recent", one tab per category, "Custom"), the search field
@@ -31,10 +22,7 @@ class LMFormatSelectionWndCtrl;
 // records every choice in the recent list.
 //
 // One instance per process, made on first use; everything runs on the GUI thread.
-class LMSELECTION_EXPORT LMFormatSelectionWndCtrl : public QWidget,
-                                                    public LMTabHeaderViewDelegate,
-                                                    public LMFormatDataDelegate,
-                                                    public LMFormatEditingWndCtrlDelegate {
+class LMSELECTION_EXPORT LMFormatSelectionWndCtrl : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
     Q_PROPERTY(bool enableSearch READ enableSearch WRITE setEnableSearch NOTIFY enableSearchChanged)
@@ -56,15 +44,11 @@ public:
     // Rebuilds every tab from the data source once its external data is loaded.
     void loadExternalDataInMainThread();
 
-    // Where the popup goes for the host rectangle rect: centred under it, above
-    // it when there is no room below, on the visible bottom when there is room
-    // neither way, and kept inside the visible frame horizontally.
+    // Where the popup goes for the host rectangle rect on the screen under it:
+    // centred under it, above it when there is no room below, on the visible
+    // bottom when there is room neither way, and kept inside the visible frame
+    // horizontally.
     QRect frameFromRect(const QRectF& rect) const;
-    static QRect frameFromRect(const QRectF& rect, const QRect& visibleFrame);
-
-    void setCurrentFormatNode(qsizetype index);
-    QWidget* currentFormatNodeView() const;
-    QRect frameOfFormatNodeView() const;
 
     // The popup lost focus: it hides, and a showing that ended without a choice
     // reports a dismissal (two empty handles).
@@ -72,28 +56,12 @@ public:
     // The search field's action: filters the list of the selected tab.
     void onSearchAction();
 
-    void tabHeaderViewSelectionDidChanged(LMTabHeaderView* header) override;
-    void viewControllerSelectFormat(QObject* ctrl,
-                                    std::shared_ptr<const Lumeran::ILMFormatPreset> preset,
-                                    std::shared_ptr<const Lumeran::ILMFormatNode> node) override;
-    // An edit request: the popup steps aside for the modal editor; a saved edit
-    // completes the showing with the edited preset, anything else brings the
-    // popup back as it was.
-    void viewControllerEditingFormat(QObject* ctrl,
-                                     std::shared_ptr<Lumeran::ILMFormatPreset> preset,
-                                     std::shared_ptr<Lumeran::ILMFormatNode> node) override;
-    void formatEditingWndCtrlDidCreateFormatPreset(LMFormatEditingWndCtrl* ctrl) override;
-
-    LMTabHeaderView* tabHeaderView() const;
-    LMFmtNodeViewCtrl* customFmtViewCtrl();
-    LMFmtRecentViewCtrl* recentFmtViewCtrl();
-    const QList<LMFmtNodeViewCtrl*>& defFmtViewCtrls() const;
-    LMProgressIndicator* loadPrgInd() const;
-    QLineEdit* searchField() const;
-    QWidget* contentView() const;
+    // Whether the current showing ended with a choice or an accepted edit.
     bool finishedSelecting() const;
+    // The search field's text.
     QString searchText() const;
     void setSearchText(const QString& text);
+    // Whether the search field takes input; it does once the tabs are built.
     bool enableSearch() const;
     void setEnableSearch(bool enable);
     LMFormatInternationalizationMgr* lizationMgr() const;
@@ -110,23 +78,7 @@ protected:
 
 private:
     LMFormatSelectionWndCtrl();
-    void windowDidLoad();
-    // Shows the window where it is and takes the focus.
-    void popupAgain();
-    void reloadCustomIfReplaced();
-    void setupDefaultFormats();
-    void cleanDefFormats();
-    void completeSelection(std::shared_ptr<const Lumeran::ILMFormatPreset> preset,
-                           std::shared_ptr<const Lumeran::ILMFormatNode> node);
-    void takeTypedText(const QString& text);
-    void retranslate();
 
-    std::unique_ptr<Ui::LMFormatSelectionWndCtrl> m_ui;
-    CompleteHandler m_completeHandler;
-    LMFmtNodeViewCtrl* m_customFmtViewCtrl = nullptr;
-    LMFmtRecentViewCtrl* m_recentFmtViewCtrl = nullptr;
-    QList<LMFmtNodeViewCtrl*> m_defFmtViewCtrls;
-    bool m_finishedSelecting = false;
-    bool m_enableSearch = false;
-    QString m_searchText;
+    friend class LMFormatSelectionWndCtrlPrivate;
+    std::unique_ptr<LMFormatSelectionWndCtrlPrivate> d;
 };

@@ -1,6 +1,6 @@
 #include "LMDemoConverter.h"
 
-#include "LMFFmpegArguments.h"
+#include <LMMediaFormatPopup/LMFFmpegArguments.h>
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ILMFormatPreset.h"
+#include <LMMediaFormatPopup/ILMFormatPreset.h>
 
 #include <QObject>
 #include <QProcess>

@@ -1,11 +1,12 @@
 #include "LMDemoHostWindow.h"
 
-#include "ILMArtworkImageGroupAdapter.h"
-#include "ILMFmtPresetDataSource.h"
-#include "ILMMediaFormatPopup.h"
 #include "LMDemoConverter.h"
-#include "LMFFmpegArguments.h"
-#include "LMFormatInternationalizationMgr.h"
+
+#include <LMMediaFormatPopup/ILMArtworkImageGroupAdapter.h>
+#include <LMMediaFormatPopup/ILMFmtPresetDataSource.h>
+#include <LMMediaFormatPopup/ILMMediaFormatPopup.h>
+#include <LMMediaFormatPopup/LMFFmpegArguments.h>
+#include <LMMediaFormatPopup/LMFormatInternationalizationMgr.h>
 
 #include <QActionGroup>
 #include <QFileDialog>

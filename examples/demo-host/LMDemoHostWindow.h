@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ILMFormatNode.h"
-#include "ILMFormatPreset.h"
+#include <LMMediaFormatPopup/ILMFormatNode.h>
+#include <LMMediaFormatPopup/ILMFormatPreset.h>
 
 #include <QMainWindow>
 

@@ -1,19 +1,15 @@
 // The demo host. Run it to try the popup:
 //     lmfp-demo-host [--catalogue FILE.json]
-// or, on a machine without a display, let it walk through the popup and write
-// screenshots:
-//     QT_QPA_PLATFORM=offscreen lmfp-demo-host --tour build/screenshots
+// On a machine without a display, `make demo` runs tools/demo-tour instead,
+// which walks through this window and writes screenshots.
 
-#include "ILMAppSettings.h"
-#include "ILMMediaFormatPopup.h"
-#include "LMDefaultCatalogue.h"
 #include "LMDemoHostWindow.h"
-#include "LMDemoTour.h"
+
+#include <LMMediaFormatPopup/ILMMediaFormatPopup.h>
+#include <LMMediaFormatPopup/LMDefaultCatalogue.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDir>
-#include <QTemporaryDir>
 
 using namespace Lumeran;
 
@@ -29,33 +25,14 @@ int main(int argc, char** argv) {
     const QCommandLineOption catalogue(QStringLiteral("catalogue"),
                                        QStringLiteral("Format catalogue (JSON) to load."),
                                        QStringLiteral("file"));
-    const QCommandLineOption tour(
-        QStringLiteral("tour"),
-        QStringLiteral("Walk through the popup and write a screenshot of every step to dir."),
-        QStringLiteral("dir"));
-    const QCommandLineOption noConversion(
-        QStringLiteral("tour-without-conversion"),
-        QStringLiteral("Leave the conversion out of the tour (a second pass at another scale)."));
     parser.addOption(catalogue);
-    parser.addOption(tour);
-    parser.addOption(noConversion);
     parser.process(app);
 
-    const std::string cataloguePath = parser.isSet(catalogue)
-                                          ? parser.value(catalogue).toStdString()
-                                          : LMDefaultCatalogue::Path();
-
-    if (parser.isSet(tour)) {
-        // The tour starts from nothing and leaves the user's settings alone.
-        QTemporaryDir settingsDir;
-        ILMAppSettings::UseSettingsFile(
-            settingsDir.filePath(QStringLiteral("demo.ini")).toStdString());
-        LMDemoTour demoTour(cataloguePath, parser.value(tour), !parser.isSet(noConversion));
-        return demoTour.run() ? 0 : 1;
-    }
-
+    // The framework loads the catalogue off the GUI thread; the popup shows a
+    // spinner until it arrives.
     auto popup = ILMMediaFormatPopup::Shared();
-    popup->SetupExternalFormatData(cataloguePath);
+    popup->SetupExternalFormatData(parser.isSet(catalogue) ? parser.value(catalogue).toStdString()
+                                                           : LMDefaultCatalogue::Path());
     LMDemoHostWindow window;
     window.show();
     const int status = QApplication::exec();

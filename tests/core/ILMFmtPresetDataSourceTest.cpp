@@ -4,6 +4,7 @@
 #include "ILMJsonWriter.h"
 #include "LMCoreTestSupport.h"
 #include "LMFmtPresetDataSource.h"
+#include "LMSingleton_p.h"
 #include "LMTestEnvironment.h"
 
 #include <gtest/gtest.h>
@@ -14,8 +15,8 @@ using namespace Lumeran::TestSupport;
 class ILMFmtPresetDataSourceTest : public SettingsTest {};
 
 TEST_F(ILMFmtPresetDataSourceTest, SharedIsMadeOnFirstUseFromTheStoredLists) {
-    if (!ClaimFirstUseOfSharedDataSource())
-        GTEST_SKIP() << "an earlier test in this process made the shared instance";
+    // As in a new process: no instance yet.
+    LMSingletons::ResetForTesting();
     auto recent = MakeNode("Recent", "Recent Selection", 1);
     recent->AddChild(MakeFormat("MKV", "Matroska", 104, "mkv", {QStringLiteral("Archive")}));
     ILMAppSettings::Shared()->SetStringValue(
@@ -32,7 +33,6 @@ TEST_F(ILMFmtPresetDataSourceTest, SharedIsMadeOnFirstUseFromTheStoredLists) {
 }
 
 TEST_F(ILMFmtPresetDataSourceTest, SharedReturnsTheSameInstanceOnEveryCall) {
-    ClaimFirstUseOfSharedDataSource();
     const auto first = ILMFmtPresetDataSource::Shared();
     const auto second = ILMFmtPresetDataSource::Shared();
     ASSERT_TRUE(first);

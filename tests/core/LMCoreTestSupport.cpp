@@ -83,13 +83,6 @@ qint64 WriteLargeCatalogue(const QString& path, int formats, int presetsPerForma
     return file.size();
 }
 
-bool ClaimFirstUseOfSharedDataSource() {
-    static bool used = false;
-    const bool first = !used;
-    used = true;
-    return first;
-}
-
 struct LoadGate::State {
     bool arrived = false;
     bool released = false;

@@ -30,11 +30,6 @@ std::shared_ptr<ILMFormatNode> MakeFormat(const std::string& title, const std::s
 // `presetsPerFormat` MP4 presets each; returns the file's size in bytes.
 qint64 WriteLargeCatalogue(const QString& path, int formats, int presetsPerFormat);
 
-// True for the first caller in this process only. Tests that depend on making
-// the shared data source themselves skip when an earlier test already made it
-// (ctest runs every test in a process of its own, so there they always run).
-bool ClaimFirstUseOfSharedDataSource();
-
 // Holds a load at its start: the loader waits at the catalogue load hook until
 // the test writes the catalogue file and releases it. Beside the catalogue,
 // "<name>.icfg" may be written to give the load an artwork configuration.

@@ -3,6 +3,7 @@
 #include "ILMFmtPresetRecentItem.h"
 #include "LMCoreTestSupport.h"
 #include "LMDefaultCatalogue.h"
+#include "LMSingleton_p.h"
 #include "LMTestEnvironment.h"
 
 #include <gmock/gmock.h>
@@ -217,7 +218,8 @@ INSTANTIATE_TEST_SUITE_P(
 class LMFmtPresetRecentItemArtworkTest : public SettingsTest {};
 
 TEST_F(LMFmtPresetRecentItemArtworkTest, GetArtworkGroupAsksTheSharedDataSourceForTheNodesFaceId) {
-    ClaimFirstUseOfSharedDataSource();
+    // A new shared instance, which loads once.
+    LMSingletons::ResetForTesting();
     const auto source = ILMFmtPresetDataSource::Shared();
     source->AsyncLoadExternalDataSource(LMDefaultCatalogue::Path(), [] {});
     source->WaitForLoadingComplete();

@@ -8,8 +8,6 @@
 #include "LMDefaultCatalogue.h"
 #include "LME2EUser.h"
 #include "LMFormatInternationalizationMgr.h"
-#include "LMSharedEditingWindow_p.h"
-#include "LMSharedSelectionWindow_p.h"
 #include "LMUiTestSupport.h"
 
 #include <QAbstractItemView>
@@ -55,14 +53,6 @@ struct Completions {
     };
     std::vector<Call> calls;
 };
-
-// Each case starts as a new host process would: new windows (the editor first,
-// as the popup may be its delegate) and a new data source with nothing loaded.
-const bool g_windowsReset = [] {
-    TestSupport::ResetBeforeEachUiTest([] { LMSharedEditingWindow::ResetForTesting(); });
-    TestSupport::ResetBeforeEachUiTest([] { LMSharedSelectionWindow::ResetForTesting(); });
-    return true;
-}();
 
 bool SetupCatalogue(const std::string& path) {
     auto popup = ILMMediaFormatPopup::Shared();

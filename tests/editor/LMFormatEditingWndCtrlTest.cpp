@@ -1,5 +1,7 @@
 #include "LMFormatEditingWndCtrl.h"
 
+#include "LMFormatEditingWndCtrl_p.h"
+
 #include "ILMFmtPresetDataSource.h"
 #include "LMEditorTestSupport.h"
 #include "LMFakeFormatPreset.h"
@@ -160,6 +162,8 @@ protected:
     }
 
     CountingEditor editor;
+    // The editor's insides: its actions and the naming of a new preset.
+    LMFormatEditingWndCtrlPrivate* const d = LMFormatEditingWndCtrlPrivate::get(&editor);
     RecordingDelegate delegate;
     std::shared_ptr<ILMFormatNode> mp4;
 };
@@ -263,7 +267,7 @@ TEST_F(LMFormatEditingWndCtrlTest, PinnedBestQualityIsNamedButNotOffered) {
         EXPECT_EQ(box("cmbVQuality")->currentIndex(), -1);
         EXPECT_EQ(box("cmbVQuality")->placeholderText(), QStringLiteral("Best"));
         // Another preset's quality box shows no leftover name.
-        editor.ResetAction();
+        d->ResetAction();
     });
     edit(cataloguePreset(mp4, "High Quality"), mp4, [this] {
         EXPECT_EQ(box("cmbVQuality")->currentText(), QStringLiteral("High"));
@@ -506,15 +510,15 @@ TEST_F(LMFormatEditingWndCtrlTest, ProposedNameIsThePresetTitleWhenItHoldsTheNod
     const auto node = ILMFormatNode::MallocFormatNode("MP4", "", 0);
     const auto preset = ILMFormatPreset::MallocFormatPreset("mp4", "MP4 High Quality");
     edit(preset, node, [&] {
-        EXPECT_EQ(editor.GetDefaultCustomFormatName(), QStringLiteral("MP4 High Quality-custom0"));
+        EXPECT_EQ(d->GetDefaultCustomFormatName(), QStringLiteral("MP4 High Quality-custom0"));
         // Taken by a group other than the preset's own still counts.
         auto taken = preset->Clone();
         taken->SetTitle("MP4 High Quality-custom0");
         ILMFmtPresetDataSource::Shared()->AddCustomPreset(
             taken, ILMFormatNode::MallocFormatNode("Elsewhere", "", 0));
-        EXPECT_TRUE(editor.HasDefind("MP4 High Quality-custom0"));
-        EXPECT_FALSE(editor.HasDefind("mp4 high quality-custom0"));
-        EXPECT_EQ(editor.GetDefaultCustomFormatName(), QStringLiteral("MP4 High Quality-custom1"));
+        EXPECT_TRUE(d->HasDefind("MP4 High Quality-custom0"));
+        EXPECT_FALSE(d->HasDefind("mp4 high quality-custom0"));
+        EXPECT_EQ(d->GetDefaultCustomFormatName(), QStringLiteral("MP4 High Quality-custom1"));
     });
 }
 
@@ -586,7 +590,7 @@ TEST_F(LMFormatEditingWndCtrlTest, EveryWayOfClosingPassesThroughWindowWillClose
         {"Escape", [this] { QTest::keyClick(&editor, Qt::Key_Escape); }},
         {"close", [this] { editor.close(); }},
         {"reject", [this] { editor.reject(); }},
-        {"CancelAction", [this] { editor.CancelAction(); }},
+        {"CancelAction", [this] { d->CancelAction(); }},
         {"hide", [this] { editor.hide(); }},
         {"open prompt, then reject",
          [this] {
@@ -635,7 +639,7 @@ TEST_F(LMFormatEditingWndCtrlTest, TitleAndLabelsFollowALanguageChangeMadeWhileC
 
 TEST_F(LMFormatEditingWndCtrlTest, SharedIsOneEditorAndTheAppNameIsTheApplications) {
     EXPECT_EQ(LMFormatEditingWndCtrl::shared(), LMFormatEditingWndCtrl::shared());
-    EXPECT_EQ(LMFormatEditingWndCtrl::getAppName(), QCoreApplication::applicationName());
+    EXPECT_EQ(LMFormatEditingWndCtrlPrivate::getAppName(), QCoreApplication::applicationName());
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Lumeran Converter"));
-    EXPECT_EQ(LMFormatEditingWndCtrl::getAppName(), QStringLiteral("Lumeran Converter"));
+    EXPECT_EQ(LMFormatEditingWndCtrlPrivate::getAppName(), QStringLiteral("Lumeran Converter"));
 }

@@ -5,6 +5,7 @@
 #include "LMFmtNodeViewCtrl.h"
 #include "LMFormatCollectionView.h"
 #include "LMFormatSelectionWndCtrl.h"
+#include "LMFormatSelectionWndCtrl_p.h"
 #include "LMTabHeaderView.h"
 #include "LMUiTestSupport.h"
 
@@ -18,6 +19,11 @@ using Lumeran::TestSupport::UiTest;
 
 namespace {
 
+// The insides of the popup the facade shows.
+LMFormatSelectionWndCtrlPrivate* Window() {
+    return LMFormatSelectionWndCtrlPrivate::get(LMFormatSelectionWndCtrl::shared());
+}
+
 class ILMMediaFormatPopupTest : public UiTest {};
 
 // Loads the default catalogue through the facade and lets the queued building of
@@ -26,7 +32,7 @@ void SetupThroughFacade() {
     auto popup = ILMMediaFormatPopup::Shared();
     popup->SetupExternalFormatData(LMDefaultCatalogue::Path());
     popup->WaitForFormatDataLoadingComplete();
-    QTRY_VERIFY(LMFormatSelectionWndCtrl::shared()->tabHeaderView()->countOfTab() > 2);
+    QTRY_VERIFY(Window()->tabHeaderView()->countOfTab() > 2);
 }
 
 } // namespace
@@ -47,7 +53,8 @@ TEST_F(ILMMediaFormatPopupTest, WaitingBeforeSetupReturnsAtOnce) {
 TEST_F(ILMMediaFormatPopupTest, SetupBuildsTheTabsOnTheGuiThread) {
     SetupThroughFacade();
     auto* ctrl = LMFormatSelectionWndCtrl::shared();
-    EXPECT_EQ(ctrl->tabHeaderView()->countOfTab(), std::size_t(ctrl->defFmtViewCtrls().size()) + 2);
+    EXPECT_EQ(Window()->tabHeaderView()->countOfTab(),
+              std::size_t(Window()->defFmtViewCtrls().size()) + 2);
     EXPECT_EQ(ctrl->thread(), QThread::currentThread());
 }
 
@@ -74,7 +81,7 @@ TEST_F(ILMMediaFormatPopupTest, AnEmptyCompletionStillOpensThePopupAndAChoiceCal
                                                   ILMMediaFormatPopup::Completion{});
     auto* ctrl = LMFormatSelectionWndCtrl::shared();
     ASSERT_TRUE(ctrl->isVisible());
-    QAbstractItemView* list = ctrl->defFmtViewCtrls().first()->fmtListView();
+    QAbstractItemView* list = Window()->defFmtViewCtrls().first()->fmtListView();
     const QRect row = list->visualRect(list->model()->index(0, 0));
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row.center() - QPoint(40, 0));
     EXPECT_FALSE(ctrl->isVisible());
@@ -93,8 +100,7 @@ TEST_F(ILMMediaFormatPopupTest, TheCompletionReceivesTheChosenPresetAndNodeOnce)
                                                       chosen = preset;
                                                       node = owner;
                                                   });
-    auto* ctrl = LMFormatSelectionWndCtrl::shared();
-    QAbstractItemView* list = ctrl->defFmtViewCtrls().first()->fmtListView();
+    QAbstractItemView* list = Window()->defFmtViewCtrls().first()->fmtListView();
     const QRect row = list->visualRect(list->model()->index(1, 0));
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row.center() - QPoint(40, 0));
     EXPECT_EQ(calls, 1);

@@ -1,5 +1,7 @@
 #include "LMFormatSelectionWndCtrl.h"
 
+#include "LMFormatSelectionWndCtrl_p.h"
+
 #include "ILMFmtPresetDataSource.h"
 #include "LMFmtNodeViewCtrl.h"
 #include "LMFmtRecentViewCtrl.h"
@@ -9,8 +11,6 @@
 #include "LMFormatEditingWndCtrl.h"
 #include "LMFormatInternationalizationMgr.h"
 #include "LMProgressIndicator.h"
-#include "LMSharedEditingWindow_p.h"
-#include "LMSharedSelectionWindow_p.h"
 #include "LMTabHeaderView.h"
 #include "LMUiTestSupport.h"
 
@@ -87,25 +87,16 @@ bool LoadCatalogue(const std::string& path) {
     return source->GetExternalFormatPresets() != nullptr;
 }
 
-// Each case gets new windows; the editor goes first, as the popup may be its
-// delegate.
-const bool g_windowsReset = [] {
-    Lumeran::TestSupport::ResetBeforeEachUiTest(
-        [] { Lumeran::LMSharedEditingWindow::ResetForTesting(); });
-    Lumeran::TestSupport::ResetBeforeEachUiTest(
-        [] { Lumeran::LMSharedSelectionWindow::ResetForTesting(); });
-    return true;
-}();
-
 class LMFormatSelectionWndCtrlTest : public UiTest {
 protected:
     void SetUp() override {
         UiTest::SetUp();
         ctrl = LMFormatSelectionWndCtrl::shared();
+        d = LMFormatSelectionWndCtrlPrivate::get(ctrl);
     }
 
     void TearDown() override {
-        ctrl->searchField()->clear();
+        d->searchField()->clear();
         UiTest::TearDown();
     }
 
@@ -132,7 +123,7 @@ protected:
 
     QStringList TabTitles() const {
         QStringList titles;
-        for (QAbstractButton* button : ctrl->tabHeaderView()->tabButtons())
+        for (QAbstractButton* button : d->tabHeaderView()->tabButtons())
             titles << button->text();
         return titles;
     }
@@ -146,7 +137,7 @@ protected:
     }
 
     void ClickTab(int index) {
-        QAbstractButton* button = ctrl->tabHeaderView()->tabButtons().at(index);
+        QAbstractButton* button = d->tabHeaderView()->tabButtons().at(index);
         QTest::mouseClick(button, Qt::LeftButton);
     }
 
@@ -185,6 +176,8 @@ protected:
 
     QTemporaryDir dir;
     LMFormatSelectionWndCtrl* ctrl = nullptr;
+    // The window's insides: its tab strip, lists and search field.
+    LMFormatSelectionWndCtrlPrivate* d = nullptr;
     std::vector<Completion> completions;
 };
 
@@ -193,61 +186,67 @@ const QRect kScreen(0, 0, 1600, 1000);
 } // namespace
 
 TEST_F(LMFormatSelectionWndCtrlTest, PopupHangsCentredUnderTheRectangle) {
-    const QRect frame = LMFormatSelectionWndCtrl::frameFromRect(QRectF(700, 100, 200, 30), kScreen);
+    const QRect frame =
+        LMFormatSelectionWndCtrlPrivate::frameFromRect(QRectF(700, 100, 200, 30), kScreen);
     EXPECT_EQ(frame, QRect(400, 130, 800, 450));
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, RectangleNearTheBottomPutsThePopupAboveIt) {
-    const QRect frame = LMFormatSelectionWndCtrl::frameFromRect(QRectF(700, 900, 200, 30), kScreen);
+    const QRect frame =
+        LMFormatSelectionWndCtrlPrivate::frameFromRect(QRectF(700, 900, 200, 30), kScreen);
     EXPECT_EQ(frame, QRect(400, 450, 800, 450));
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, NoRoomAboveEitherPinsThePopupToTheVisibleBottom) {
     const QRect visible(0, 0, 1600, 700);
-    const QRect frame = LMFormatSelectionWndCtrl::frameFromRect(QRectF(700, 400, 200, 30), visible);
+    const QRect frame =
+        LMFormatSelectionWndCtrlPrivate::frameFromRect(QRectF(700, 400, 200, 30), visible);
     EXPECT_EQ(frame, QRect(400, 250, 800, 450));
     // It may then cover the rectangle.
     EXPECT_TRUE(frame.intersects(QRect(700, 400, 200, 30)));
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, RectangleNearTheRightEdgeRightAlignsToTheVisibleRightEdge) {
-    const QRect frame = LMFormatSelectionWndCtrl::frameFromRect(QRectF(1500, 100, 80, 30), kScreen);
+    const QRect frame =
+        LMFormatSelectionWndCtrlPrivate::frameFromRect(QRectF(1500, 100, 80, 30), kScreen);
     EXPECT_EQ(frame.right() + 1, kScreen.right() + 1);
     EXPECT_EQ(frame.x(), 800);
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, RectangleNearTheLeftEdgeLeftAlignsToTheVisibleLeftEdge) {
     const QRect visible(50, 0, 1550, 1000);
-    const QRect frame = LMFormatSelectionWndCtrl::frameFromRect(QRectF(60, 100, 80, 30), visible);
+    const QRect frame =
+        LMFormatSelectionWndCtrlPrivate::frameFromRect(QRectF(60, 100, 80, 30), visible);
     EXPECT_EQ(frame.x(), 50);
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, PopupWiderThanTheVisibleFrameEndsRightAligned) {
     const QRect visible(0, 0, 600, 1000);
-    const QRect frame = LMFormatSelectionWndCtrl::frameFromRect(QRectF(300, 100, 10, 10), visible);
+    const QRect frame =
+        LMFormatSelectionWndCtrlPrivate::frameFromRect(QRectF(300, 100, 10, 10), visible);
     EXPECT_EQ(frame.x(), 600 - 800);
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, UntilTheDataArrivesTheIndicatorSpinsAndSearchIsDisabled) {
     Popup();
-    ASSERT_NE(ctrl->loadPrgInd(), nullptr);
-    EXPECT_TRUE(ctrl->loadPrgInd()->isAnimating());
-    EXPECT_EQ(ctrl->tabHeaderView()->countOfTab(), 0u);
-    EXPECT_EQ(ctrl->currentFormatNodeView(), ctrl->loadPrgInd());
+    ASSERT_NE(d->loadPrgInd(), nullptr);
+    EXPECT_TRUE(d->loadPrgInd()->isAnimating());
+    EXPECT_EQ(d->tabHeaderView()->countOfTab(), 0u);
+    EXPECT_EQ(d->currentFormatNodeView(), d->loadPrgInd());
     EXPECT_FALSE(ctrl->enableSearch());
-    EXPECT_FALSE(ctrl->searchField()->isEnabled());
+    EXPECT_FALSE(d->searchField()->isEnabled());
 
     LoadDefault();
-    EXPECT_EQ(ctrl->loadPrgInd(), nullptr);
-    EXPECT_TRUE(ctrl->searchField()->isEnabled());
-    EXPECT_GT(ctrl->tabHeaderView()->countOfTab(), 2u);
+    EXPECT_EQ(d->loadPrgInd(), nullptr);
+    EXPECT_TRUE(d->searchField()->isEnabled());
+    EXPECT_GT(d->tabHeaderView()->countOfTab(), 2u);
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, WithAnEmptyRecentListThePopupOpensOnTheFirstCategory) {
     LoadDefault();
     Popup();
-    EXPECT_EQ(ctrl->tabHeaderView()->indexOfSelected(), 1u);
-    EXPECT_EQ(ctrl->currentFormatNodeView(), ctrl->defFmtViewCtrls().first()->view());
+    EXPECT_EQ(d->tabHeaderView()->indexOfSelected(), 1u);
+    EXPECT_EQ(d->currentFormatNodeView(), d->defFmtViewCtrls().first()->view());
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, WithRecentEntriesThePopupOpensOnRecent) {
@@ -257,8 +256,8 @@ TEST_F(LMFormatSelectionWndCtrlTest, WithRecentEntriesThePopupOpensOnRecent) {
     source->PushRecentItem(format->FormatPresetAt(0), format);
     ctrl->loadExternalDataInMainThread();
     Popup();
-    EXPECT_EQ(ctrl->tabHeaderView()->indexOfSelected(), 0u);
-    EXPECT_EQ(ctrl->currentFormatNodeView(), ctrl->recentFmtViewCtrl()->view());
+    EXPECT_EQ(d->tabHeaderView()->indexOfSelected(), 0u);
+    EXPECT_EQ(d->currentFormatNodeView(), d->recentFmtViewCtrl()->view());
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, WithCategoriesAAndBTheStripReadsRecentABCustom) {
@@ -281,37 +280,37 @@ TEST_F(LMFormatSelectionWndCtrlTest, SearchingOnTheCustomTabSearchesTheCustomLis
     Popup();
 
     ClickTab(3);
-    ASSERT_EQ(ctrl->currentFormatNodeView(), ctrl->customFmtViewCtrl()->view());
-    EXPECT_EQ(Titles(ctrl->customFmtViewCtrl()->fmtListView()).size(), 2);
-    QTest::keyClicks(ctrl->searchField(), QStringLiteral("tablet"));
-    EXPECT_EQ(Titles(ctrl->customFmtViewCtrl()->fmtListView()),
+    ASSERT_EQ(d->currentFormatNodeView(), d->customFmtViewCtrl()->view());
+    EXPECT_EQ(Titles(d->customFmtViewCtrl()->fmtListView()).size(), 2);
+    QTest::keyClicks(d->searchField(), QStringLiteral("tablet"));
+    EXPECT_EQ(Titles(d->customFmtViewCtrl()->fmtListView()),
               QStringList{QStringLiteral("Mine for the tablet")});
     // The category lists were not searched.
-    EXPECT_EQ(Titles(ctrl->defFmtViewCtrls().at(0)->fmtListView()).size(), 2);
+    EXPECT_EQ(Titles(d->defFmtViewCtrls().at(0)->fmtListView()).size(), 2);
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, SearchingFiltersOnlyTheSelectedTabsList) {
     ASSERT_TRUE(LoadTwoCategories());
     Popup();
     ClickTab(1);
-    QTest::keyClicks(ctrl->searchField(), QStringLiteral("720"));
-    LMFmtNodeViewCtrl* a = ctrl->defFmtViewCtrls().at(0);
+    QTest::keyClicks(d->searchField(), QStringLiteral("720"));
+    LMFmtNodeViewCtrl* a = d->defFmtViewCtrls().at(0);
     EXPECT_EQ(Titles(a->nodeListView()), QStringList{QStringLiteral("MP4")});
     EXPECT_EQ(Titles(a->fmtListView()), QStringList{QStringLiteral("HD 720p")});
-    EXPECT_EQ(Titles(ctrl->defFmtViewCtrls().at(1)->nodeListView()),
+    EXPECT_EQ(Titles(d->defFmtViewCtrls().at(1)->nodeListView()),
               QStringList{QStringLiteral("Phone")});
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, SwitchingTabsEmptiesTheSearchField) {
     LoadDefault();
     Popup();
-    QTest::keyClicks(ctrl->searchField(), QStringLiteral("hd"));
+    QTest::keyClicks(d->searchField(), QStringLiteral("hd"));
     EXPECT_EQ(ctrl->searchText(), QStringLiteral("hd"));
     ClickTab(2);
-    EXPECT_EQ(ctrl->searchField()->text(), QString());
+    EXPECT_EQ(d->searchField()->text(), QString());
     EXPECT_EQ(ctrl->searchText(), QString());
-    EXPECT_EQ(ctrl->tabHeaderView()->indexOfSelected(), 2u);
-    EXPECT_EQ(ctrl->currentFormatNodeView(), ctrl->defFmtViewCtrls().at(1)->view());
+    EXPECT_EQ(d->tabHeaderView()->indexOfSelected(), 2u);
+    EXPECT_EQ(d->currentFormatNodeView(), d->defFmtViewCtrls().at(1)->view());
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, ClickingOutsideThePopupHidesItAndReportsADismissalOnce) {
@@ -338,7 +337,7 @@ TEST_F(LMFormatSelectionWndCtrlTest, ClickingOutsideThePopupHidesItAndReportsADi
 TEST_F(LMFormatSelectionWndCtrlTest, EscapeDismissesThePopup) {
     LoadDefault();
     Popup();
-    QTest::keyClick(ctrl->searchField(), Qt::Key_Escape);
+    QTest::keyClick(d->searchField(), Qt::Key_Escape);
     EXPECT_FALSE(ctrl->isVisible());
     ASSERT_EQ(completions.size(), 1u);
     EXPECT_EQ(completions[0].preset, nullptr);
@@ -347,7 +346,7 @@ TEST_F(LMFormatSelectionWndCtrlTest, EscapeDismissesThePopup) {
 TEST_F(LMFormatSelectionWndCtrlTest, ChoosingAPresetHidesThePopupAndPutsThePairOnTopOfRecent) {
     LoadDefault();
     Popup();
-    LMFmtNodeViewCtrl* first = ctrl->defFmtViewCtrls().first();
+    LMFmtNodeViewCtrl* first = d->defFmtViewCtrls().first();
     const QString chosen = Titles(first->fmtListView()).at(1);
     ClickRow(first->fmtListView(), 1);
 
@@ -368,7 +367,7 @@ TEST_F(LMFormatSelectionWndCtrlTest, ChoosingAPresetHidesThePopupAndPutsThePairO
     ASSERT_FALSE(recent.empty());
     EXPECT_EQ(recent.front()->FormatPreset()->Title(), chosen.toStdString());
     EXPECT_EQ(recent.front()->FormatNode()->Title(), node);
-    const QStringList shown = Titles(ctrl->recentFmtViewCtrl()->recentListView());
+    const QStringList shown = Titles(d->recentFmtViewCtrl()->recentListView());
     ASSERT_FALSE(shown.isEmpty());
     EXPECT_TRUE(shown.first().contains(chosen)) << shown.first().toStdString();
 }
@@ -376,7 +375,7 @@ TEST_F(LMFormatSelectionWndCtrlTest, ChoosingAPresetHidesThePopupAndPutsThePairO
 TEST_F(LMFormatSelectionWndCtrlTest, PressingEnterInTheFormatListChoosesTheCurrentPreset) {
     LoadDefault();
     Popup();
-    QAbstractItemView* list = ctrl->defFmtViewCtrls().first()->fmtListView();
+    QAbstractItemView* list = d->defFmtViewCtrls().first()->fmtListView();
     list->setFocus();
     list->setCurrentIndex(list->model()->index(2, 0));
     QTest::keyClick(list, Qt::Key_Return);
@@ -388,10 +387,10 @@ TEST_F(LMFormatSelectionWndCtrlTest, PressingEnterInTheFormatListChoosesTheCurre
 TEST_F(LMFormatSelectionWndCtrlTest, TypingWhileAListHasFocusGoesToTheSearchField) {
     LoadDefault();
     Popup();
-    QAbstractItemView* list = ctrl->defFmtViewCtrls().first()->fmtListView();
+    QAbstractItemView* list = d->defFmtViewCtrls().first()->fmtListView();
     list->setFocus();
     QTest::keyClicks(list, QStringLiteral("4k"));
-    EXPECT_EQ(ctrl->searchField()->text(), QStringLiteral("4k"));
+    EXPECT_EQ(d->searchField()->text(), QStringLiteral("4k"));
     EXPECT_EQ(ctrl->searchText(), QStringLiteral("4k"));
     for (const QString& title : Titles(list))
         EXPECT_TRUE(title.contains(QStringLiteral("4K"), Qt::CaseInsensitive) || title.isEmpty())
@@ -404,37 +403,37 @@ TEST_F(LMFormatSelectionWndCtrlTest, ShowingAgainKeepsTheTabAndReloadsNothing) {
     ClickTab(3);
     ctrl->windowDidResignKey();
     Popup();
-    EXPECT_EQ(ctrl->tabHeaderView()->indexOfSelected(), 3u);
-    EXPECT_EQ(ctrl->currentFormatNodeView(), ctrl->defFmtViewCtrls().at(2)->view());
+    EXPECT_EQ(d->tabHeaderView()->indexOfSelected(), 3u);
+    EXPECT_EQ(d->currentFormatNodeView(), d->defFmtViewCtrls().at(2)->view());
     EXPECT_FALSE(ctrl->finishedSelecting());
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, AnOutOfRangeTabIndexChangesNothing) {
     LoadDefault();
     Popup();
-    QWidget* before = ctrl->currentFormatNodeView();
-    ctrl->setCurrentFormatNode(ctrl->defFmtViewCtrls().size() + 2);
-    EXPECT_EQ(ctrl->currentFormatNodeView(), before);
-    EXPECT_EQ(ctrl->tabHeaderView()->indexOfSelected(), 1u);
+    QWidget* before = d->currentFormatNodeView();
+    d->setCurrentFormatNode(d->defFmtViewCtrls().size() + 2);
+    EXPECT_EQ(d->currentFormatNodeView(), before);
+    EXPECT_EQ(d->tabHeaderView()->indexOfSelected(), 1u);
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, TheListFillsTheContentBelowTheStrip) {
     LoadDefault();
     Popup();
-    const QRect list = ctrl->currentFormatNodeView()->geometry();
-    EXPECT_EQ(list.top(), ctrl->tabHeaderView()->geometry().bottom() + 1);
-    EXPECT_EQ(list.width(), ctrl->contentView()->width());
-    EXPECT_EQ(list.bottom(), ctrl->contentView()->rect().bottom());
+    const QRect list = d->currentFormatNodeView()->geometry();
+    EXPECT_EQ(list.top(), d->tabHeaderView()->geometry().bottom() + 1);
+    EXPECT_EQ(list.width(), d->contentView()->width());
+    EXPECT_EQ(list.bottom(), d->contentView()->rect().bottom());
     EXPECT_EQ(ctrl->size(), QSize(800, 450));
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, LoadingTwiceBuildsTheTabsOnce) {
     LoadDefault();
-    const std::size_t tabs = ctrl->tabHeaderView()->countOfTab();
-    const qsizetype lists = ctrl->defFmtViewCtrls().size();
+    const std::size_t tabs = d->tabHeaderView()->countOfTab();
+    const qsizetype lists = d->defFmtViewCtrls().size();
     ctrl->loadExternalDataInMainThread();
-    EXPECT_EQ(ctrl->tabHeaderView()->countOfTab(), tabs);
-    EXPECT_EQ(ctrl->defFmtViewCtrls().size(), lists);
+    EXPECT_EQ(d->tabHeaderView()->countOfTab(), tabs);
+    EXPECT_EQ(d->defFmtViewCtrls().size(), lists);
     EXPECT_EQ(tabs, std::size_t(lists) + 2);
 }
 
@@ -445,7 +444,7 @@ TEST_F(LMFormatSelectionWndCtrlTest, TabTitlesFollowALanguageChange) {
     EXPECT_EQ(TabTitles().first(), LMFormatInternationalizationMgr::sharedObject()->stringForKey(
                                        QStringLiteral("Recent")));
     EXPECT_NE(TabTitles().first(), QStringLiteral("Recent"));
-    EXPECT_NE(ctrl->searchField()->placeholderText(), QStringLiteral("Search"));
+    EXPECT_NE(d->searchField()->placeholderText(), QStringLiteral("Search"));
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, AnEditRequestHidesThePopupAndRunsTheEditor) {
@@ -453,7 +452,7 @@ TEST_F(LMFormatSelectionWndCtrlTest, AnEditRequestHidesThePopupAndRunsTheEditor)
     Popup();
     bool popupVisibleDuringEdit = true;
     bool editorVisible = false;
-    ClickEdit(ctrl->defFmtViewCtrls().first()->fmtListView(), 0, [&] {
+    ClickEdit(d->defFmtViewCtrls().first()->fmtListView(), 0, [&] {
         popupVisibleDuringEdit = ctrl->isVisible();
         editorVisible = LMFormatEditingWndCtrl::shared()->isVisible();
         LMFormatEditingWndCtrl::shared()->reject();
@@ -465,7 +464,7 @@ TEST_F(LMFormatSelectionWndCtrlTest, AnEditRequestHidesThePopupAndRunsTheEditor)
 TEST_F(LMFormatSelectionWndCtrlTest, SavingInTheEditorCompletesThePopupWithTheEditedPreset) {
     LoadDefault();
     Popup();
-    LMFormatCollectionView* list = ctrl->defFmtViewCtrls().first()->fmtListView();
+    LMFormatCollectionView* list = d->defFmtViewCtrls().first()->fmtListView();
     std::string chosenResolution;
     ClickEdit(list, 0, [&] {
         QComboBox* resolution = EditorBox("cmbResolution");
@@ -496,7 +495,7 @@ TEST_F(LMFormatSelectionWndCtrlTest,
        CancellingTheEditorBringsThePopupBackAndALaterLossOfFocusReportsADismissal) {
     LoadDefault();
     Popup();
-    ClickEdit(ctrl->defFmtViewCtrls().first()->fmtListView(), 1,
+    ClickEdit(d->defFmtViewCtrls().first()->fmtListView(), 1,
               [] { QTest::keyClick(LMFormatEditingWndCtrl::shared(), Qt::Key_Escape); });
     EXPECT_TRUE(ctrl->isVisible());
     EXPECT_FALSE(ctrl->finishedSelecting());
@@ -512,9 +511,9 @@ TEST_F(LMFormatSelectionWndCtrlTest,
 TEST_F(LMFormatSelectionWndCtrlTest, ANewCustomPresetFromTheEditorReloadsTheCustomTab) {
     LoadDefault();
     Popup();
-    LMFmtNodeViewCtrl* custom = ctrl->customFmtViewCtrl();
+    LMFmtNodeViewCtrl* custom = d->customFmtViewCtrl();
     EXPECT_EQ(custom->nodeListView()->model()->rowCount(), 0);
-    ClickEdit(ctrl->defFmtViewCtrls().first()->fmtListView(), 0, [] {
+    ClickEdit(d->defFmtViewCtrls().first()->fmtListView(), 0, [] {
         auto* editor = LMFormatEditingWndCtrl::shared();
         // Accept the proposed name in the prompt that the button opens.
         QTimer::singleShot(0, editor, [editor] {

@@ -3,28 +3,12 @@
 #include "ILMFmtPresetDataSource.h"
 #include "LMDefaultCatalogue.h"
 #include "LMFormatInternationalizationMgr.h"
-#include "LMSharedDataSource_p.h"
+#include "LMSingleton_p.h"
 
 #include <QApplication>
 #include <QWidget>
 
-#include <functional>
-#include <vector>
-
 namespace Lumeran::TestSupport {
-
-namespace {
-
-std::vector<std::function<void()>>& Resets() {
-    static std::vector<std::function<void()>> resets;
-    return resets;
-}
-
-} // namespace
-
-void ResetBeforeEachUiTest(std::function<void()> reset) {
-    Resets().push_back(std::move(reset));
-}
 
 void LoadDefaultCatalogueIntoSharedDataSource() {
     auto source = ILMFmtPresetDataSource::Shared();
@@ -51,9 +35,7 @@ void ClearSharedLists() {
 void UiTest::SetUp() {
     // Every case starts as in a process of its own: no windows, no catalogue and
     // lists read from this case's settings.
-    for (const auto& reset : Resets())
-        reset();
-    LMSharedDataSource::ResetForTesting();
+    LMSingletons::ResetForTesting();
     ClearSharedLists();
     LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageEnglish);
 }

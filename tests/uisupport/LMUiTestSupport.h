@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
 
 namespace Lumeran::TestSupport {
@@ -16,10 +15,6 @@ void LoadDefaultCatalogueIntoSharedDataSource();
 // Empties the shared data source's recent and custom lists and saves them, so a
 // test that runs after another in the same process starts from nothing.
 void ClearSharedLists();
-
-// Registers what a test program must reset before each case besides the shared
-// data source (the windows of the libraries it links), in the order given.
-void ResetBeforeEachUiTest(std::function<void()> reset);
 
 // Fixture of the widget tests: a settings file of its own, empty recent and
 // custom lists, the English language, and nothing left over for the next test.

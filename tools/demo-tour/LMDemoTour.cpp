@@ -13,6 +13,7 @@
 #include "LMFormatDataViewItem.h"
 #include "LMFormatInternationalizationMgr.h"
 #include "LMFormatSelectionWndCtrl.h"
+#include "LMFormatSelectionWndCtrl_p.h"
 #include "LMTabHeaderView.h"
 
 #include <QAbstractButton>
@@ -30,6 +31,16 @@
 #include <cstdio>
 
 using namespace Lumeran;
+
+namespace {
+
+// The popup's tab strip, lists and search field, which the tour drives as a
+// user would.
+LMFormatSelectionWndCtrlPrivate* Popup() {
+    return LMFormatSelectionWndCtrlPrivate::get(LMFormatSelectionWndCtrl::shared());
+}
+
+} // namespace
 
 LMDemoTour::LMDemoTour(std::string cataloguePath, QString outputDir, bool convert)
     : m_cataloguePath(std::move(cataloguePath)), m_outputDir(std::move(outputDir)),
@@ -62,8 +73,7 @@ bool LMDemoTour::shoot(const QString& name) {
 }
 
 void LMDemoTour::clickTab(int index) {
-    auto* ctrl = LMFormatSelectionWndCtrl::shared();
-    QTest::mouseClick(ctrl->tabHeaderView()->tabButtons().at(index), Qt::LeftButton);
+    QTest::mouseClick(Popup()->tabHeaderView()->tabButtons().at(index), Qt::LeftButton);
     settle();
 }
 
@@ -80,12 +90,12 @@ void LMDemoTour::hoverRow(QAbstractItemView* view, int row) {
 }
 
 QAbstractItemView* LMDemoTour::categoryPresetList(int category) const {
-    const auto& lists = LMFormatSelectionWndCtrl::shared()->defFmtViewCtrls();
+    const auto& lists = Popup()->defFmtViewCtrls();
     return category < lists.size() ? lists.at(category)->fmtListView() : nullptr;
 }
 
 QAbstractItemView* LMDemoTour::customPresetList() const {
-    return LMFormatSelectionWndCtrl::shared()->customFmtViewCtrl()->fmtListView();
+    return Popup()->customFmtViewCtrl()->fmtListView();
 }
 
 bool LMDemoTour::run() {
@@ -138,11 +148,11 @@ bool LMDemoTour::run() {
         return false;
 
     // 3. A search in progress.
-    QTest::keyClicks(ctrl->searchField(), QStringLiteral("1080"));
+    QTest::keyClicks(Popup()->searchField(), QStringLiteral("1080"));
     if (!shoot(QStringLiteral("03-search")))
         return false;
-    QTest::keyClick(ctrl->searchField(), Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(ctrl->searchField(), Qt::Key_Backspace);
+    QTest::keyClick(Popup()->searchField(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(Popup()->searchField(), Qt::Key_Backspace);
     settle();
 
     // 4. Two choices, then Recent lists them, newest first.
@@ -161,7 +171,7 @@ bool LMDemoTour::run() {
         return false;
 
     // 5. The presets the user saved.
-    clickTab(int(ctrl->tabHeaderView()->countOfTab()) - 1);
+    clickTab(int(Popup()->tabHeaderView()->countOfTab()) - 1);
     hoverRow(customPresetList(), 0);
     if (!shoot(QStringLiteral("05-custom")))
         return false;
@@ -175,7 +185,7 @@ bool LMDemoTour::run() {
     LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageEnglish);
 
     // 7. Escape dismisses the popup; the host keeps its last choice.
-    QTest::keyClick(ctrl->searchField(), Qt::Key_Escape);
+    QTest::keyClick(Popup()->searchField(), Qt::Key_Escape);
     settle();
     if (!check(!ctrl->isVisible(), "Escape did not dismiss the popup") ||
         !shoot(QStringLiteral("07-host-with-choice")))

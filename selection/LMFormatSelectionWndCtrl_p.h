@@ -1,0 +1,97 @@
+#pragma once
+
+// Not part of the framework's interface: the popup window's insides, for the
+// window itself and for tests and tools that look into it.
+
+#include "LMFormatDataDelegate.h"
+#include "LMFormatEditingWndCtrlDelegate.h"
+#include "LMFormatSelectionWndCtrl.h"
+#include "LMSelectionExport.h"
+#include "LMTabHeaderViewDelegate.h"
+
+#include <QList>
+#include <QRect>
+
+#include <memory>
+
+class LMFmtNodeViewCtrl;
+class LMFmtRecentViewCtrl;
+class LMProgressIndicator;
+class LMTabHeaderView;
+class QLineEdit;
+namespace Ui {
+class LMFormatSelectionWndCtrl;
+}
+
+// The popup's state and the work behind its public calls. It is the delegate of
+// the tab strip, of every list and of the editor, so that those messages stay
+// out of the window's interface.
+class LMSELECTION_EXPORT LMFormatSelectionWndCtrlPrivate final
+    : public LMTabHeaderViewDelegate,
+      public LMFormatDataDelegate,
+      public LMFormatEditingWndCtrlDelegate {
+public:
+    explicit LMFormatSelectionWndCtrlPrivate(LMFormatSelectionWndCtrl* owner);
+    ~LMFormatSelectionWndCtrlPrivate() override;
+
+    static LMFormatSelectionWndCtrlPrivate* get(LMFormatSelectionWndCtrl* ctrl);
+    // Makes the window of LMFormatSelectionWndCtrl::shared().
+    static std::shared_ptr<LMFormatSelectionWndCtrl> make();
+
+    // LMFormatSelectionWndCtrl::frameFromRect() within visibleFrame.
+    static QRect frameFromRect(const QRectF& rect, const QRect& visibleFrame);
+
+    // Tab index: 0 is "Recent", 1 to n the categories, n + 1 "Custom".
+    void setCurrentFormatNode(qsizetype index);
+    QWidget* currentFormatNodeView() const;
+    QRect frameOfFormatNodeView() const;
+    void setupDefaultFormats();
+    void cleanDefFormats();
+    // Records a choice in the recent list and tells the showing's handler.
+    void completeSelection(std::shared_ptr<const Lumeran::ILMFormatPreset> preset,
+                           std::shared_ptr<const Lumeran::ILMFormatNode> node);
+
+    void tabHeaderViewSelectionDidChanged(LMTabHeaderView* header) override;
+    void viewControllerSelectFormat(QObject* ctrl,
+                                    std::shared_ptr<const Lumeran::ILMFormatPreset> preset,
+                                    std::shared_ptr<const Lumeran::ILMFormatNode> node) override;
+    // An edit request: the popup steps aside for the modal editor; a saved edit
+    // completes the showing with the edited preset, anything else brings the
+    // popup back as it was.
+    void viewControllerEditingFormat(QObject* ctrl,
+                                     std::shared_ptr<Lumeran::ILMFormatPreset> preset,
+                                     std::shared_ptr<Lumeran::ILMFormatNode> node) override;
+    void formatEditingWndCtrlDidCreateFormatPreset(LMFormatEditingWndCtrl* ctrl) override;
+
+    LMTabHeaderView* tabHeaderView() const;
+    // The lists, made on first use.
+    LMFmtNodeViewCtrl* customFmtViewCtrl();
+    LMFmtRecentViewCtrl* recentFmtViewCtrl();
+    const QList<LMFmtNodeViewCtrl*>& defFmtViewCtrls() const;
+    // The spinner shown until the data arrives; null afterwards.
+    LMProgressIndicator* loadPrgInd() const;
+    QLineEdit* searchField() const;
+    QWidget* contentView() const;
+
+private:
+    friend class LMFormatSelectionWndCtrl;
+
+    void windowDidLoad();
+    // Shows the window where it is and takes the focus.
+    void popupAgain();
+    void reloadCustomIfReplaced();
+    void takeTypedText(const QString& text);
+    void retranslate();
+    void listenTo(LMFmtNodeViewCtrl* ctrl);
+    void layOutContent();
+
+    LMFormatSelectionWndCtrl* const q;
+    std::unique_ptr<Ui::LMFormatSelectionWndCtrl> ui;
+    LMFormatSelectionWndCtrl::CompleteHandler completeHandler;
+    LMFmtNodeViewCtrl* m_customFmtViewCtrl = nullptr;
+    LMFmtRecentViewCtrl* m_recentFmtViewCtrl = nullptr;
+    QList<LMFmtNodeViewCtrl*> m_defFmtViewCtrls;
+    bool finishedSelecting = false;
+    bool enableSearch = false;
+    QString searchText;
+};
