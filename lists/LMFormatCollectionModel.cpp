@@ -116,3 +116,8 @@ void LMFormatCollectionModel::refreshAll() {
     if (m_rows > 0)
         Q_EMIT dataChanged(index(0), index(m_rows - 1));
 }
+
+void LMFormatCollectionModel::forgetRow(int row) {
+    if (row >= 0 && static_cast<std::size_t>(row) < m_cache.size())
+        m_cache[static_cast<std::size_t>(row)].reset();
+}

@@ -42,6 +42,9 @@ public:
     void removeItemAt(int row);
     // Every row's texts may read differently (a new language).
     void refreshAll();
+    // Drops what is kept of row, which is read again when next asked for
+    // (a row that went out of view).
+    void forgetRow(int row);
 
 private:
     struct Row;

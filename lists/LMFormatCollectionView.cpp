@@ -126,6 +126,9 @@ struct LMFormatCollectionView::Private {
     void layoutVisibleItems() {
         for (auto it = live.begin(); it != live.end();) {
             if (!isRowVisible(it->first)) {
+                // A row that comes back into view reads its entry afresh, as
+                // a row that gets a new cell always has.
+                model->forgetRow(it->first);
                 const auto next = std::next(it);
                 recycle(it);
                 it = next;

@@ -118,6 +118,23 @@ TEST_F(LMFormatCollectionViewTest, RowsAnswerTheirTextsWithoutHavingACell) {
     EXPECT_EQ(source.requests, 0);
 }
 
+TEST_F(LMFormatCollectionViewTest, ARowThatComesBackIntoViewReadsItsEntryAfresh) {
+    source.Fill(200);
+    view->setItemHeight(50);
+    view->reloadData();
+    ASSERT_TRUE(ShowAndWait(view.get(), 400, 300));
+    auto first = std::const_pointer_cast<ILMFormatPreset>(source.presets.at(0));
+    first->SetTitle("Renamed");
+    EXPECT_EQ(view->model()->index(0, 0).data().toString(), QStringLiteral("Preset 0"));
+
+    view->scrollToBottom();
+    QCoreApplication::processEvents();
+    ASSERT_EQ(view->itemAtIndex(0), nullptr);
+    view->scrollToTop();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view->model()->index(0, 0).data().toString(), QStringLiteral("Renamed"));
+}
+
 TEST_F(LMFormatCollectionViewTest, EachRowIsAskedOfTheDataSourceOnceUntilTheNextReload) {
     source.Fill(3);
     view->reloadData();
