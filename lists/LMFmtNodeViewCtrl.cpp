@@ -161,6 +161,18 @@ int LMFmtNodeViewCtrl::collectionViewNumberOfItemsInSection(LMFormatCollectionVi
     return 0;
 }
 
+LMFormatEntry
+LMFmtNodeViewCtrl::collectionViewRepresentedObjectAtIndexPath(LMFormatCollectionView* view,
+                                                              int index) {
+    if (view == nodeListView()) {
+        const auto root = currentListRoot();
+        return root ? LMFormatEntry::fromNode(root->ChildAt(index)) : LMFormatEntry();
+    }
+    if (view == fmtListView() && d->selectedNode)
+        return LMFormatEntry::fromPreset(d->selectedNode->FormatPresetAt(index));
+    return {};
+}
+
 LMFormatDataViewItem*
 LMFmtNodeViewCtrl::collectionViewItemForRepresentedObjectAtIndexPath(LMFormatCollectionView* view,
                                                                      int index) {

@@ -64,6 +64,8 @@ public:
     LMFormatInternationalizationMgr* lizationMgr() const;
 
     int collectionViewNumberOfItemsInSection(LMFormatCollectionView* view, int section) override;
+    LMFormatEntry collectionViewRepresentedObjectAtIndexPath(LMFormatCollectionView* view,
+                                                             int index) override;
     LMFormatDataViewItem*
     collectionViewItemForRepresentedObjectAtIndexPath(LMFormatCollectionView* view,
                                                       int index) override;

@@ -92,13 +92,18 @@ int LMFmtRecentViewCtrl::collectionViewNumberOfItemsInSection(LMFormatCollection
     return static_cast<int>(currentList().size());
 }
 
+LMFormatEntry
+LMFmtRecentViewCtrl::collectionViewRepresentedObjectAtIndexPath(LMFormatCollectionView* view,
+                                                                int index) {
+    (void)view;
+    const auto entry = entryAt(index);
+    return entry ? LMFormatEntry::fromRecentItem(entry) : LMFormatEntry();
+}
+
 LMFormatDataViewItem*
 LMFmtRecentViewCtrl::collectionViewItemForRepresentedObjectAtIndexPath(LMFormatCollectionView* view,
                                                                        int index) {
-    const auto list = currentList();
-    const auto entry = index >= 0 && static_cast<std::size_t>(index) < list.size()
-                           ? list[static_cast<std::size_t>(index)]
-                           : nullptr;
+    const auto entry = entryAt(index);
     if (!entry)
         return nullptr;
     LMFormatDataViewItem* item = view->makeItem(index);
@@ -147,6 +152,14 @@ Lumeran::ILMFmtPresetDataSource::RecentList LMFmtRecentViewCtrl::currentList() c
     if (d->searchRecentList)
         return *d->searchRecentList;
     return Lumeran::ILMFmtPresetDataSource::Shared()->GetRecentList();
+}
+
+std::shared_ptr<const Lumeran::ILMFmtPresetRecentItem>
+LMFmtRecentViewCtrl::entryAt(int index) const {
+    const auto list = currentList();
+    return index >= 0 && static_cast<std::size_t>(index) < list.size()
+               ? list[static_cast<std::size_t>(index)]
+               : nullptr;
 }
 
 void LMFmtRecentViewCtrl::scrollViewPortDidChanged() {

@@ -47,6 +47,8 @@ public:
     LMFormatInternationalizationMgr* lizationMgr() const;
 
     int collectionViewNumberOfItemsInSection(LMFormatCollectionView* view, int section) override;
+    LMFormatEntry collectionViewRepresentedObjectAtIndexPath(LMFormatCollectionView* view,
+                                                             int index) override;
     LMFormatDataViewItem*
     collectionViewItemForRepresentedObjectAtIndexPath(LMFormatCollectionView* view,
                                                       int index) override;
@@ -66,6 +68,7 @@ private:
     void viewDidLoad();
     // The filtered entries while a search is active, else the stored ones.
     Lumeran::ILMFmtPresetDataSource::RecentList currentList() const;
+    std::shared_ptr<const Lumeran::ILMFmtPresetRecentItem> entryAt(int index) const;
     void scrollViewPortDidChanged();
     void updateEmptyText();
 

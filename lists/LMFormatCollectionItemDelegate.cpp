@@ -1,14 +1,96 @@
 #include "LMFormatCollectionItemDelegate.h"
 
+#include "LMFormatCellLayout.h"
+#include "LMFormatCollectionModel.h"
 #include "LMFormatDataView.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyleOptionToolButton>
+
+namespace {
+
+constexpr int kImageSize = 32;
+constexpr int kGlyphSize = 16;
+constexpr int kDefaultHeight = 52;
+
+// The button glyphs are drawn rather than shipped, at each common scale factor,
+// so they stay sharp on every screen.
+QIcon glyphIcon(const std::function<void(QPainter&)>& draw) {
+    QIcon icon;
+    for (const qreal ratio : {1.0, 2.0, 3.0}) {
+        QPixmap pixmap(QSize(kGlyphSize, kGlyphSize) * ratio);
+        pixmap.setDevicePixelRatio(ratio);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(QColor(96, 96, 96), 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        draw(painter);
+        painter.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
+QIcon pencilIcon() {
+    return glyphIcon([](QPainter& painter) {
+        painter.translate(kGlyphSize / 2.0, kGlyphSize / 2.0);
+        painter.rotate(-45.0);
+        QPainterPath body;
+        body.moveTo(-7.0, 0.0);
+        body.lineTo(-4.2, -2.0);
+        body.lineTo(5.5, -2.0);
+        body.lineTo(5.5, 2.0);
+        body.lineTo(-4.2, 2.0);
+        body.closeSubpath();
+        painter.drawPath(body);
+        painter.drawLine(QPointF(-4.2, -2.0), QPointF(-4.2, 2.0));
+        painter.drawLine(QPointF(3.5, -2.0), QPointF(3.5, 2.0));
+    });
+}
+
+QIcon crossIcon() {
+    return glyphIcon([](QPainter& painter) {
+        painter.setPen(QPen(QColor(96, 96, 96), 1.6, Qt::SolidLine, Qt::RoundCap));
+        painter.drawLine(QPointF(4.5, 4.5), QPointF(11.5, 11.5));
+        painter.drawLine(QPointF(11.5, 4.5), QPointF(4.5, 11.5));
+    });
+}
+
+// The description is secondary: a little smaller than the title.
+QFont descriptionFont(QFont font) {
+    font.setPointSizeF(font.pointSizeF() * 0.9);
+    return font;
+}
+
+void drawText(QPainter* painter, const QRect& rect, const QFont& font, const QColor& color,
+              const QString& text) {
+    if (rect.isEmpty())
+        return;
+    painter->setFont(font);
+    painter->setPen(color);
+    painter->drawText(rect, Qt::AlignLeft | Qt::AlignVCenter,
+                      painter->fontMetrics().elidedText(text, Qt::ElideRight, rect.width()));
+}
+
+void drawImage(QPainter* painter, const QRect& rect, const QIcon& icon) {
+    if (icon.isNull())
+        return;
+    const QPixmap pixmap =
+        icon.pixmap(QSize(kImageSize, kImageSize), painter->device()->devicePixelRatioF());
+    QRect target(QPoint(), pixmap.deviceIndependentSize().toSize());
+    target.moveCenter(rect.center());
+    painter->drawPixmap(target, pixmap);
+}
+
+} // namespace
 
 LMFormatCollectionItemDelegate::LMFormatCollectionItemDelegate(CellProvider cells,
                                                                HeightProvider height,
                                                                QObject* parent)
-    : QStyledItemDelegate(parent), m_cells(std::move(cells)), m_height(std::move(height)) {}
+    : QStyledItemDelegate(parent), m_cells(std::move(cells)), m_height(std::move(height)),
+      m_editIcon(pencilIcon()), m_removeIcon(crossIcon()) {}
 
 LMFormatCollectionItemDelegate::~LMFormatCollectionItemDelegate() = default;
 
@@ -17,8 +99,31 @@ void LMFormatCollectionItemDelegate::paint(QPainter* painter, const QStyleOption
     LMFormatDataView* cell = m_cells ? m_cells(index.row(), option.rect) : nullptr;
     if (!cell)
         return;
-    painter->drawPixmap(option.rect.topLeft(),
-                        cell->snapshot(painter->device()->devicePixelRatioF()));
+    painter->save();
+    painter->translate(option.rect.topLeft());
+    cell->drawRect(painter);
+    painter->restore();
+
+    const QFont smallFont = descriptionFont(option.font);
+    const QColor textColor = option.palette.color(QPalette::WindowText);
+    const bool descriptionVisible =
+        index.data(LMFormatCollectionModel::VisibleDescriptionRole).toBool();
+    const LMFormatCellLayout layout = LMFormatCellLayout::of(
+        option.rect, QFontMetrics(option.font).height(), QFontMetrics(smallFont).height(),
+        descriptionVisible, cell->isEditVisible(), cell->isRemoveVisible());
+    painter->save();
+    drawImage(painter, layout.image, index.data(Qt::DecorationRole).value<QIcon>());
+    drawText(painter, layout.title, option.font, textColor, index.data(Qt::DisplayRole).toString());
+    if (descriptionVisible)
+        drawText(painter, layout.description, smallFont, textColor,
+                 index.data(LMFormatCollectionModel::DescriptionRole).toString());
+    painter->restore();
+    const auto down = cell->actionButtonDown();
+    paintButton(painter, option, layout.edit, m_editIcon,
+                down == LMFormatDataView::ActionButton::Edit);
+    paintButton(painter, option, layout.remove, m_removeIcon,
+                down == LMFormatDataView::ActionButton::Remove);
+
     // The keyboard's current row gets an outline, unless the selection
     // background already marks it.
     if ((option.state & QStyle::State_HasFocus) && !(option.state & QStyle::State_Selected)) {
@@ -31,8 +136,36 @@ void LMFormatCollectionItemDelegate::paint(QPainter* painter, const QStyleOption
     }
 }
 
+// Drawn as the style draws a flat tool button: the glyph alone, sunk while held.
+void LMFormatCollectionItemDelegate::paintButton(QPainter* painter,
+                                                 const QStyleOptionViewItem& option,
+                                                 const QRect& rect, const QIcon& icon,
+                                                 bool down) const {
+    if (rect.isEmpty())
+        return;
+    QStyleOptionToolButton button;
+    if (option.widget)
+        button.initFrom(option.widget);
+    button.palette = option.palette;
+    button.rect = rect;
+    // A row's button never takes the focus, and the row's hover is not the
+    // button's: the style draws it flat unless it is held.
+    button.state &= ~(QStyle::State_HasFocus | QStyle::State_MouseOver);
+    button.state |= QStyle::State_Enabled | QStyle::State_AutoRaise;
+    if (down)
+        button.state |= QStyle::State_Sunken;
+    button.subControls = QStyle::SC_ToolButton;
+    button.activeSubControls = down ? QStyle::SC_ToolButton : QStyle::SC_None;
+    button.icon = icon;
+    button.iconSize = QSize(kGlyphSize, kGlyphSize);
+    button.toolButtonStyle = Qt::ToolButtonIconOnly;
+    button.font = option.font;
+    const QStyle* style = option.widget ? option.widget->style() : QApplication::style();
+    style->drawComplexControl(QStyle::CC_ToolButton, &button, painter, option.widget);
+}
+
 QSize LMFormatCollectionItemDelegate::sizeHint(const QStyleOptionViewItem& option,
                                                const QModelIndex& index) const {
     (void)index;
-    return QSize(qMax(1, option.rect.width()), m_height ? m_height() : 52);
+    return QSize(qMax(1, option.rect.width()), m_height ? m_height() : kDefaultHeight);
 }

@@ -1,19 +1,24 @@
 #pragma once
 
+#include <QIcon>
 #include <QStyledItemDelegate>
 
 #include <functional>
 
 class LMFormatDataView;
 
-// Paints a format list's rows: each row's cell (the item's LMFormatDataView) is
-// placed over the row and rendered into the list, so a cell's look comes from
-// its interface file while only visible rows are ever laid out or drawn.
+// Paints a format list's rows from the model's data: the image, the title over
+// the muted description, and, on a hovered row of a list that allows them, the
+// edit or remove button; a hovered or selected row gets the rounded background
+// its LMFormatDataView draws. Rows are painted directly, so only visible rows
+// cost anything and no row has a widget. Where the buttons lie comes from
+// LMFormatCellLayout, by which the list also hit-tests them.
 class LMFormatCollectionItemDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
 public:
-    // The cell of a row, placed over rect; nullptr when the row has none.
+    // The row's state (hover, buttons), placed over rect; nullptr when the row
+    // has none.
     using CellProvider = std::function<LMFormatDataView*(int row, const QRect& rect)>;
     using HeightProvider = std::function<int()>;
 
@@ -26,6 +31,11 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 private:
+    void paintButton(QPainter* painter, const QStyleOptionViewItem& option, const QRect& rect,
+                     const QIcon& icon, bool down) const;
+
     CellProvider m_cells;
     HeightProvider m_height;
+    QIcon m_editIcon;
+    QIcon m_removeIcon;
 };

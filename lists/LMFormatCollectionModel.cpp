@@ -1,8 +1,27 @@
 #include "LMFormatCollectionModel.h"
 
-LMFormatCollectionModel::LMFormatCollectionModel(CountProvider count, DataProvider data,
+#include <optional>
+
+struct LMFormatCollectionModel::Row {
+    explicit Row(LMFormatEntry source)
+        : entry(std::move(source)), title(entry.title()), description(entry.description()) {}
+
+    // The image is worked out only when a row is drawn or asked for it.
+    const QIcon& icon() const {
+        if (!image)
+            image = entry.image();
+        return *image;
+    }
+
+    LMFormatEntry entry;
+    QString title;
+    QString description;
+    mutable std::optional<QIcon> image;
+};
+
+LMFormatCollectionModel::LMFormatCollectionModel(CountProvider count, EntryProvider entry,
                                                  QObject* parent)
-    : QAbstractListModel(parent), m_count(std::move(count)), m_data(std::move(data)) {}
+    : QAbstractListModel(parent), m_count(std::move(count)), m_entry(std::move(entry)) {}
 
 LMFormatCollectionModel::~LMFormatCollectionModel() = default;
 
@@ -10,19 +29,61 @@ int LMFormatCollectionModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : m_rows;
 }
 
+const LMFormatCollectionModel::Row* LMFormatCollectionModel::rowAt(int row) const {
+    if (static_cast<std::size_t>(row) >= m_cache.size())
+        m_cache.resize(static_cast<std::size_t>(m_rows));
+    std::unique_ptr<Row>& cached = m_cache[static_cast<std::size_t>(row)];
+    if (cached)
+        return cached.get();
+    // While a row goes, the rows after it still have their old numbers here but
+    // their entries already moved up in the controller.
+    int source = row;
+    if (m_removing >= 0) {
+        if (row == m_removing)
+            return nullptr;
+        if (row > m_removing)
+            --source;
+    }
+    cached = std::make_unique<Row>(m_entry ? m_entry(source) : LMFormatEntry());
+    return cached.get();
+}
+
 QVariant LMFormatCollectionModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
-    int row = index.row();
-    // While a row goes, the rows after it still have their old numbers here but
-    // their entries already moved up in the controller.
-    if (m_removing >= 0) {
-        if (row == m_removing)
-            return {};
-        if (row > m_removing)
-            --row;
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::ToolTipRole:
+    case Qt::DecorationRole:
+    case Qt::AccessibleTextRole:
+    case Qt::AccessibleDescriptionRole:
+    case DescriptionRole:
+    case VisibleDescriptionRole:
+        break;
+    default:
+        return {};
     }
-    return m_data ? m_data(row, role) : QVariant();
+    const Row* row = rowAt(index.row());
+    if (!row)
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+        return row->title;
+    case Qt::ToolTipRole:
+        return row->description.isEmpty() ? QVariant() : QVariant(row->description);
+    case Qt::DecorationRole:
+        return row->icon();
+    case Qt::AccessibleTextRole:
+        return row->description.isEmpty() ? row->title
+                                          : row->title + QStringLiteral(", ") + row->description;
+    case Qt::AccessibleDescriptionRole:
+    case DescriptionRole:
+        return row->description;
+    case VisibleDescriptionRole:
+        return row->entry.visibleDescription();
+    default:
+        return {};
+    }
 }
 
 Qt::ItemFlags LMFormatCollectionModel::flags(const QModelIndex& index) const {
@@ -34,6 +95,7 @@ Qt::ItemFlags LMFormatCollectionModel::flags(const QModelIndex& index) const {
 void LMFormatCollectionModel::reload() {
     beginResetModel();
     m_rows = m_count ? qMax(0, m_count()) : 0;
+    m_cache.clear();
     endResetModel();
 }
 
@@ -43,11 +105,19 @@ void LMFormatCollectionModel::removeItemAt(int row) {
     m_removing = row;
     beginRemoveRows(QModelIndex(), row, row);
     --m_rows;
+    if (static_cast<std::size_t>(row) < m_cache.size())
+        m_cache.erase(m_cache.begin() + row);
     m_removing = -1;
     endRemoveRows();
 }
 
 void LMFormatCollectionModel::refreshAll() {
+    m_cache.clear();
     if (m_rows > 0)
         Q_EMIT dataChanged(index(0), index(m_rows - 1));
+}
+
+void LMFormatCollectionModel::forgetRow(int row) {
+    if (row >= 0 && static_cast<std::size_t>(row) < m_cache.size())
+        m_cache[static_cast<std::size_t>(row)].reset();
 }

@@ -1,23 +1,35 @@
 #pragma once
 
+#include "LMFormatEntry.h"
 #include "LMListsExport.h"
 
 #include <QAbstractListModel>
 
 #include <functional>
+#include <memory>
+#include <vector>
 
-// The model behind a format list. It holds no entries of its own: the count and
-// each row's data are asked of the list (which asks its controller), and the
-// count is kept between changes, because a controller changes its data first and
-// tells the list afterwards, as a collection view's data source does.
+// The model behind a format list. Each row is an entry (LMFormatEntry) asked of
+// the list's controller the first time the row is read, and kept with its title,
+// description and image, so a list of ten thousand entries works out only the
+// rows that are shown or read. The count is kept between changes, because a
+// controller changes its data first and tells the list afterwards, as a
+// collection view's data source does.
 class LMLISTS_EXPORT LMFormatCollectionModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
-    using CountProvider = std::function<int()>;
-    using DataProvider = std::function<QVariant(int row, int role)>;
+    enum Role {
+        // The description, whether or not the row shows it.
+        DescriptionRole = Qt::UserRole + 1,
+        // bool: the row shows its description under the title.
+        VisibleDescriptionRole,
+    };
 
-    LMFormatCollectionModel(CountProvider count, DataProvider data, QObject* parent = nullptr);
+    using CountProvider = std::function<int()>;
+    using EntryProvider = std::function<LMFormatEntry(int row)>;
+
+    LMFormatCollectionModel(CountProvider count, EntryProvider entry, QObject* parent = nullptr);
     ~LMFormatCollectionModel() override;
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
@@ -30,11 +42,19 @@ public:
     void removeItemAt(int row);
     // Every row's texts may read differently (a new language).
     void refreshAll();
+    // Drops what is kept of row, which is read again when next asked for
+    // (a row that went out of view).
+    void forgetRow(int row);
 
 private:
+    struct Row;
+    const Row* rowAt(int row) const;
+
     CountProvider m_count;
-    DataProvider m_data;
+    EntryProvider m_entry;
     int m_rows = 0;
     // The row being removed, between the announcement and the count's change.
     int m_removing = -1;
+    // Rows read so far, by row number; the others are null.
+    mutable std::vector<std::unique_ptr<Row>> m_cache;
 };

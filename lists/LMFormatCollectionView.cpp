@@ -126,6 +126,9 @@ struct LMFormatCollectionView::Private {
     void layoutVisibleItems() {
         for (auto it = live.begin(); it != live.end();) {
             if (!isRowVisible(it->first)) {
+                // A row that comes back into view reads its entry afresh, as
+                // a row that gets a new cell always has.
+                model->forgetRow(it->first);
                 const auto next = std::next(it);
                 recycle(it);
                 it = next;
@@ -206,49 +209,6 @@ struct LMFormatCollectionView::Private {
         pressRow = -1;
         pressButton = LMFormatDataView::ActionButton::None;
     }
-
-    QVariant dataOfRow(int row, int role) {
-        switch (role) {
-        case Qt::DisplayRole:
-        case Qt::ToolTipRole:
-        case Qt::DecorationRole:
-        case Qt::AccessibleTextRole:
-            break;
-        default:
-            return {};
-        }
-        // A row without a cell is read through a pool cell that goes straight back.
-        LMFormatDataViewItem* item = itemForRow(row, false);
-        const bool borrowed = !item;
-        if (borrowed)
-            item = requestItem(row);
-        if (!item)
-            return {};
-        QVariant value;
-        switch (role) {
-        case Qt::DisplayRole:
-            value = item->fmtTitle();
-            break;
-        case Qt::ToolTipRole:
-            if (!item->fmtDescription().isEmpty())
-                value = item->fmtDescription();
-            break;
-        case Qt::DecorationRole:
-            value = item->fmtImage();
-            break;
-        case Qt::AccessibleTextRole: {
-            const QString description = item->fmtDescription();
-            value = description.isEmpty() ? item->fmtTitle()
-                                          : item->fmtTitle() + QStringLiteral(", ") + description;
-            break;
-        }
-        default:
-            break;
-        }
-        if (borrowed)
-            pool.push_back(item);
-        return value;
-    }
 };
 
 LMFormatCollectionView::LMFormatCollectionView(QWidget* parent)
@@ -257,7 +217,12 @@ LMFormatCollectionView::LMFormatCollectionView(QWidget* parent)
         [this] {
             return d->dataSource ? d->dataSource->collectionViewNumberOfItemsInSection(this, 0) : 0;
         },
-        [this](int row, int role) { return d->dataOfRow(row, role); }, this);
+        [this](int row) {
+            return d->dataSource
+                       ? d->dataSource->collectionViewRepresentedObjectAtIndexPath(this, row)
+                       : LMFormatEntry();
+        },
+        this);
     setModel(d->model);
     setItemDelegate(new LMFormatCollectionItemDelegate(
         [this](int row, const QRect& rect) -> LMFormatDataView* {
@@ -346,11 +311,7 @@ LMFormatDataViewItem* LMFormatCollectionView::makeItem(int index) {
         d->pool.pop_back();
     } else {
         item = new LMFormatDataViewItem(this);
-        // The cell lives over the rows, hidden: it is painted, never shown.
-        if (LMFormatDataView* cell = item->dataView()) {
-            cell->setParent(viewport());
-            cell->hide();
-        }
+        item->dataView()->setHost(viewport());
     }
     d->handedOut.push_back(item);
     return item;

@@ -15,11 +15,12 @@ class LMFormatDataViewItem;
 
 // A virtualized list of format cells in one column, run by a controller the way a
 // collection view is run by its data source and delegate: the controller says
-// how many entries there are and fills a cell for each row the list needs
-// (makeItem() hands it one from the list's pool), and hears of the user's
-// selections. Only rows that are visible have a cell (an LMFormatDataViewItem);
-// cells of rows that scroll away go back to the pool, so a list of ten thousand
-// entries costs what its visible rows cost.
+// how many entries there are, gives the entry of a row when the model first reads
+// it, fills a cell for each row the list shows (makeItem() hands it one from the
+// list's pool), and hears of the user's selections. Rows are painted by an item
+// delegate from the model's data; only rows that are visible have a cell (an
+// LMFormatDataViewItem, no widget), and cells of rows that scroll away go back to
+// the pool, so a list of ten thousand entries costs what its visible rows cost.
 //
 // The list tracks the row under the pointer and tells that row's cell of entry
 // and exit; clicks on a cell's edit or remove button go to its item. Only the

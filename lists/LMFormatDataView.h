@@ -3,37 +3,37 @@
 #include "LMListsExport.h"
 
 #include <QColor>
-#include <QIcon>
-#include <QPixmap>
+#include <QPointer>
+#include <QRect>
 #include <QString>
-#include <QWidget>
 
 #include <memory>
 
 class LMFormatDataViewDelegate;
 class LMFormatInternationalizationMgr;
+class QPainter;
+class QWidget;
 
-// The laid-out cell of a list entry: image, title, description and the edit and
-// remove buttons, from the interface file LMFormatDataViewItem.ui. A list never
-// shows it on screen: it places it over the entry's row and paints it there, so
-// only visible rows cost anything. The view draws the rounded background of a
-// hovered or selected cell and reports the pointer's entry and exit to its
-// delegate (the item).
-class LMLISTS_EXPORT LMFormatDataView : public QWidget {
-    Q_OBJECT
-
+// The state of one row as its list shows it: where the row lies in the list's
+// viewport, whether the pointer is over it, which action buttons show and which
+// one is held down. It is no widget: the list's delegate paints the row, and the
+// view draws only the rounded background of a hovered or selected row. It
+// reports the pointer's entry and exit to its delegate (the item).
+class LMLISTS_EXPORT LMFormatDataView {
 public:
     enum class ActionButton { None, Edit, Remove };
 
-    explicit LMFormatDataView(QWidget* parent = nullptr);
-    ~LMFormatDataView() override;
+    LMFormatDataView();
+    ~LMFormatDataView();
+    LMFormatDataView(const LMFormatDataView&) = delete;
+    LMFormatDataView& operator=(const LMFormatDataView&) = delete;
 
-    // Not owned; nullptr drops pointer messages and makes the cell unselected.
+    // Not owned; nullptr drops pointer messages and makes the row unselected.
     LMFormatDataViewDelegate* delegate() const;
     void setDelegate(LMFormatDataViewDelegate* delegate);
 
-    // The grey offered for cell borders; the list strokes it around the
-    // keyboard's current cell.
+    // The grey offered for row borders; the list strokes it around the
+    // keyboard's current row.
     static QColor borderColor();
     // Colour of the hover and selection background.
     static QColor highlightColor();
@@ -45,48 +45,43 @@ public:
     void mouseEntered();
     void mouseExited();
     // Asks the pointer where it is instead of waiting for entry or exit, for
-    // when the cell moved under a still pointer. Repaints on a change and tells
+    // when the row moved under a still pointer. Repaints on a change and tells
     // the delegate nothing. Returns whether the pointer is inside.
     bool resetMouseState();
 
-    // What the item binds to its properties.
-    void setImage(const QIcon& image);
-    void setTitle(const QString& title);
-    void setDescription(const QString& description);
-    void setDescriptionVisible(bool visible);
     void setEditVisible(bool visible);
     void setRemoveVisible(bool visible);
     bool isEditVisible() const;
     bool isRemoveVisible() const;
 
-    // Moves and sizes the cell over its row (in the coordinates of the widget
-    // the cell belongs to) and lays its contents out at once, so that hit tests
-    // and painting agree with what was placed.
+    // The widget the row is painted in (the list's viewport) and the row's
+    // rectangle there.
+    QWidget* host() const;
+    void setHost(QWidget* host);
     void placeAt(const QRect& rect);
-    // The visible action button under pos (cell coordinates).
+    QRect geometry() const;
+    QSize size() const;
+    QRect rect() const;
+
+    // The visible action button under pos (row coordinates).
     ActionButton actionButtonAt(const QPoint& pos) const;
-    // Where a visible action button lies in the cell; empty when it is hidden.
+    // Where a visible action button lies in the row; empty when it is hidden.
     QRect actionButtonGeometry(ActionButton button) const;
     // Shows a button pressed while the mouse is held on it (None releases).
     void setActionButtonDown(ActionButton button);
+    ActionButton actionButtonDown() const;
+    // The button's name in the current language.
     QString actionButtonToolTip(ActionButton button) const;
 
-    // Repaints the cell where its list shows it.
+    // Repaints the row where its list shows it.
     void setNeedsDisplay();
-    // The cell as drawn, at the given scale; kept until the cell changes, so a
-    // list that scrolls redraws its cells without laying them out again.
-    QPixmap snapshot(qreal devicePixelRatio) const;
+    // The background of a hovered or selected row (hover and selection look
+    // the same), in row coordinates; nothing otherwise.
+    void drawRect(QPainter* painter) const;
 
     LMFormatInternationalizationMgr* lizationMgr() const;
 
-protected:
-    void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
-
 private:
-    void contentsChanged();
-
     struct Private;
     std::unique_ptr<Private> d;
 };

@@ -1,16 +1,8 @@
 #include "LMFormatDataViewItem.h"
 
-#include "ILMArtworkImageGroupAdapter.h"
-#include "ILMFmtPresetDataSource.h"
 #include "LMFormatDataView.h"
 #include "LMFormatDataViewItemDelegate.h"
 #include "LMFormatInternationalizationMgr.h"
-
-namespace {
-
-const QString kSameAsSource = QStringLiteral("Same as source");
-
-} // namespace
 
 LMFormatDataViewItem::LMFormatDataViewItem(QObject* parent)
     : QObject(parent), m_view(new LMFormatDataView) {
@@ -20,11 +12,7 @@ LMFormatDataViewItem::LMFormatDataViewItem(QObject* parent)
             &LMFormatDataViewItem::emitTextsChanged);
 }
 
-LMFormatDataViewItem::~LMFormatDataViewItem() {
-    // The list may have adopted the view into its viewport, in which case the
-    // viewport can have deleted it already; the guarded pointer then is null.
-    delete m_view.data();
-}
+LMFormatDataViewItem::~LMFormatDataViewItem() = default;
 
 void LMFormatDataViewItem::viewDidLoad() {
     setShowActionButton(false);
@@ -32,25 +20,14 @@ void LMFormatDataViewItem::viewDidLoad() {
     bindDataView();
 }
 
-// The cell's controls follow the derived properties, as bindings would.
+// The row's buttons follow the derived properties, as bindings would; the
+// texts and image are read by the list's delegate when it paints.
 void LMFormatDataViewItem::bindDataView() {
-    LMFormatDataView* view = m_view.data();
-    connect(this, &LMFormatDataViewItem::fmtImageChanged, view,
-            [this, view] { view->setImage(fmtImage()); });
-    connect(this, &LMFormatDataViewItem::fmtTitleChanged, view,
-            [this, view] { view->setTitle(fmtTitle()); });
-    connect(this, &LMFormatDataViewItem::fmtDescriptionChanged, view,
-            [this, view] { view->setDescription(fmtDescription()); });
-    connect(this, &LMFormatDataViewItem::visibleDescriptionChanged, view,
-            [this, view] { view->setDescriptionVisible(visibleDescription()); });
-    connect(this, &LMFormatDataViewItem::showEditingChanged, view,
+    LMFormatDataView* view = m_view.get();
+    connect(this, &LMFormatDataViewItem::showEditingChanged, this,
             [this, view] { view->setEditVisible(showEditing()); });
-    connect(this, &LMFormatDataViewItem::showRemovingChanged, view,
+    connect(this, &LMFormatDataViewItem::showRemovingChanged, this,
             [this, view] { view->setRemoveVisible(showRemoving()); });
-    view->setImage(fmtImage());
-    view->setTitle(fmtTitle());
-    view->setDescription(fmtDescription());
-    view->setDescriptionVisible(visibleDescription());
     view->setEditVisible(showEditing());
     view->setRemoveVisible(showRemoving());
 }
@@ -61,37 +38,44 @@ void LMFormatDataViewItem::emitTextsChanged() {
 }
 
 std::shared_ptr<const Lumeran::ILMFmtPresetRecentItem> LMFormatDataViewItem::recentItem() const {
-    return m_recentItem;
+    return m_entry.recentItem();
 }
 
 std::shared_ptr<const Lumeran::ILMFormatNode> LMFormatDataViewItem::fmtNode() const {
-    return m_nodeItem;
+    return m_entry.node();
 }
 
 std::shared_ptr<const Lumeran::ILMFormatPreset> LMFormatDataViewItem::fmtPreset() const {
-    return m_fmtItem;
+    return m_entry.preset();
 }
 
 void LMFormatDataViewItem::setRecentItem(
     std::shared_ptr<const Lumeran::ILMFmtPresetRecentItem> recentItem) {
-    m_recentItem = std::move(recentItem);
-    m_nodeItem.reset();
-    m_fmtItem.reset();
+    m_entry = LMFormatEntry::fromRecentItem(std::move(recentItem));
     setSourceDidChanged(sourceDidChanged() + 1);
 }
 
 void LMFormatDataViewItem::setFmtNode(std::shared_ptr<const Lumeran::ILMFormatNode> node) {
-    m_nodeItem = std::move(node);
-    m_recentItem.reset();
-    m_fmtItem.reset();
+    m_entry = LMFormatEntry::fromNode(std::move(node));
     setSourceDidChanged(sourceDidChanged() + 1);
 }
 
 void LMFormatDataViewItem::setFmtPreset(std::shared_ptr<const Lumeran::ILMFormatPreset> preset) {
-    m_fmtItem = std::move(preset);
-    m_recentItem.reset();
-    m_nodeItem.reset();
+    m_entry = LMFormatEntry::fromPreset(std::move(preset));
     setSourceDidChanged(sourceDidChanged() + 1);
+}
+
+const LMFormatEntry& LMFormatDataViewItem::entry() const {
+    return m_entry;
+}
+
+void LMFormatDataViewItem::setEntry(const LMFormatEntry& entry) {
+    if (entry.recentItem())
+        setRecentItem(entry.recentItem());
+    else if (entry.node())
+        setFmtNode(entry.node());
+    else
+        setFmtPreset(entry.preset());
 }
 
 bool LMFormatDataViewItem::removable() const {
@@ -154,52 +138,19 @@ void LMFormatDataViewItem::setDelegate(LMFormatDataViewItemDelegate* delegate) {
 }
 
 QIcon LMFormatDataViewItem::fmtImage() const {
-    std::shared_ptr<Lumeran::ILMArtworkImageGroup> group;
-    if (m_recentItem)
-        group = m_recentItem->GetArtworkGroup();
-    else if (m_nodeItem)
-        group = Lumeran::ILMFmtPresetDataSource::Shared()->GetArtworkGroup(m_nodeItem->FaceID());
-    else if (m_fmtItem)
-        group = Lumeran::ILMFmtPresetDataSource::Shared()->GetArtworkGroup(m_fmtItem->FaceID());
-    if (!group)
-        return {};
-    return Lumeran::ILMArtworkImageGroupAdapter::imageFromArtworkImageGroup(group);
+    return m_entry.image();
 }
 
 QString LMFormatDataViewItem::fmtTitle() const {
-    const LMFormatInternationalizationMgr* mgr = lizationMgr();
-    QString text;
-    if (m_recentItem) {
-        // A recent title is composed from node and preset titles; only this
-        // phrase inside it is a key of its own.
-        text = QString::fromStdString(m_recentItem->Title());
-        if (text.contains(kSameAsSource))
-            text.replace(kSameAsSource, mgr->stringForKey(kSameAsSource));
-    } else if (m_nodeItem) {
-        text = mgr->stringForKey(QString::fromStdString(m_nodeItem->Title()));
-    } else if (m_fmtItem) {
-        text = mgr->stringForKey(QString::fromStdString(m_fmtItem->Title()));
-    }
-    // Looked up once more on purpose: a localized text that is itself a key maps
-    // onward, and any other text comes back as it is.
-    return mgr->stringForKey(text);
+    return m_entry.title();
 }
 
 QString LMFormatDataViewItem::fmtDescription() const {
-    const LMFormatInternationalizationMgr* mgr = lizationMgr();
-    QString text;
-    if (m_recentItem)
-        text = mgr->stringForKey(QString::fromStdString(m_recentItem->Description()));
-    else if (m_nodeItem)
-        text = mgr->stringForKey(QString::fromStdString(m_nodeItem->Description()));
-    else if (m_fmtItem)
-        text = mgr->stringForKey(QString::fromStdString(m_fmtItem->Description()));
-    return mgr->stringForKey(text);
+    return m_entry.description();
 }
 
 bool LMFormatDataViewItem::visibleDescription() const {
-    // Node cells show a title only.
-    return !m_nodeItem;
+    return m_entry.visibleDescription();
 }
 
 bool LMFormatDataViewItem::showEditing() const {
@@ -224,7 +175,7 @@ void LMFormatDataViewItem::setSelected(bool selected) {
 }
 
 LMFormatDataView* LMFormatDataViewItem::dataView() const {
-    return m_view.data();
+    return m_view.get();
 }
 
 LMFormatInternationalizationMgr* LMFormatDataViewItem::lizationMgr() const {

@@ -4,11 +4,11 @@
 #include "ILMFormatNode.h"
 #include "ILMFormatPreset.h"
 #include "LMFormatDataViewDelegate.h"
+#include "LMFormatEntry.h"
 #include "LMListsExport.h"
 
 #include <QIcon>
 #include <QObject>
-#include <QPointer>
 #include <QString>
 
 #include <memory>
@@ -25,8 +25,9 @@ class LMFormatInternationalizationMgr;
 // the pointer is over the cell, and only if the list allows the action) and
 // passes their clicks to its delegate.
 //
-// Items are made and reused by LMFormatCollectionView; each owns its
-// LMFormatDataView, the laid-out cell that the list paints.
+// Items are made and reused by LMFormatCollectionView for the rows in view only;
+// each owns its LMFormatDataView, the row's hover and button state. The list's
+// delegate paints the row; nothing here is a widget.
 class LMLISTS_EXPORT LMFormatDataViewItem : public QObject, public LMFormatDataViewDelegate {
     Q_OBJECT
     Q_PROPERTY(QIcon fmtImage READ fmtImage NOTIFY fmtImageChanged)
@@ -53,6 +54,9 @@ public:
     void setRecentItem(std::shared_ptr<const Lumeran::ILMFmtPresetRecentItem> recentItem);
     void setFmtNode(std::shared_ptr<const Lumeran::ILMFormatNode> node);
     void setFmtPreset(std::shared_ptr<const Lumeran::ILMFormatPreset> preset);
+    // The source as one value; setting it goes through the setter of its kind.
+    const LMFormatEntry& entry() const;
+    void setEntry(const LMFormatEntry& entry);
 
     bool removable() const;
     void setRemovable(bool removable);
@@ -110,14 +114,12 @@ private:
     void bindDataView();
     void emitTextsChanged();
 
-    std::shared_ptr<const Lumeran::ILMFmtPresetRecentItem> m_recentItem;
-    std::shared_ptr<const Lumeran::ILMFormatNode> m_nodeItem;
-    std::shared_ptr<const Lumeran::ILMFormatPreset> m_fmtItem;
+    LMFormatEntry m_entry;
     bool m_removable = false;
     bool m_editable = false;
     bool m_showActionButton = false;
     bool m_selected = false;
     qint64 m_sourceDidChanged = 0;
     LMFormatDataViewItemDelegate* m_delegate = nullptr;
-    QPointer<LMFormatDataView> m_view;
+    std::unique_ptr<LMFormatDataView> m_view;
 };

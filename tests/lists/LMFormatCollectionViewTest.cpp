@@ -26,6 +26,12 @@ public:
         (void)section;
         return static_cast<int>(presets.size());
     }
+    LMFormatEntry collectionViewRepresentedObjectAtIndexPath(LMFormatCollectionView* view,
+                                                             int index) override {
+        (void)view;
+        ++entryRequests;
+        return LMFormatEntry::fromPreset(presets.at(static_cast<std::size_t>(index)));
+    }
     LMFormatDataViewItem*
     collectionViewItemForRepresentedObjectAtIndexPath(LMFormatCollectionView* view,
                                                       int index) override {
@@ -50,6 +56,7 @@ public:
     std::vector<std::shared_ptr<const ILMFormatPreset>> presets;
     std::vector<QList<int>> selections;
     int requests = 0;
+    int entryRequests = 0;
 };
 
 class LMFormatCollectionViewTest : public UiTest {
@@ -105,8 +112,49 @@ TEST_F(LMFormatCollectionViewTest, RowsAnswerTheirTextsWithoutHavingACell) {
     EXPECT_EQ(row.data(Qt::ToolTipRole).toString(), QStringLiteral("Description 2"));
     EXPECT_EQ(row.data(Qt::AccessibleTextRole).toString(),
               QStringLiteral("Preset 2, Description 2"));
+    EXPECT_EQ(row.data(Qt::AccessibleDescriptionRole).toString(), QStringLiteral("Description 2"));
     EXPECT_TRUE(row.data(Qt::DecorationRole).canConvert<QIcon>());
     EXPECT_FALSE(row.data(Qt::EditRole).isValid());
+    EXPECT_EQ(source.requests, 0);
+}
+
+TEST_F(LMFormatCollectionViewTest, ARowThatComesBackIntoViewReadsItsEntryAfresh) {
+    source.Fill(200);
+    view->setItemHeight(50);
+    view->reloadData();
+    ASSERT_TRUE(ShowAndWait(view.get(), 400, 300));
+    auto first = std::const_pointer_cast<ILMFormatPreset>(source.presets.at(0));
+    first->SetTitle("Renamed");
+    EXPECT_EQ(view->model()->index(0, 0).data().toString(), QStringLiteral("Preset 0"));
+
+    view->scrollToBottom();
+    QCoreApplication::processEvents();
+    ASSERT_EQ(view->itemAtIndex(0), nullptr);
+    view->scrollToTop();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view->model()->index(0, 0).data().toString(), QStringLiteral("Renamed"));
+}
+
+TEST_F(LMFormatCollectionViewTest, EachRowIsAskedOfTheDataSourceOnceUntilTheNextReload) {
+    source.Fill(3);
+    view->reloadData();
+    const QModelIndex row = view->model()->index(1, 0);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(row.data(Qt::DisplayRole).toString(), QStringLiteral("Preset 1"));
+        EXPECT_EQ(row.data(Qt::ToolTipRole).toString(), QStringLiteral("Description 1"));
+    }
+    EXPECT_EQ(source.entryRequests, 1);
+
+    // A deletion keeps what the other rows read, under their new numbers.
+    source.presets.erase(source.presets.begin());
+    view->deleteItemsAtIndexPaths({0});
+    EXPECT_EQ(view->model()->index(0, 0).data().toString(), QStringLiteral("Preset 1"));
+    EXPECT_EQ(source.entryRequests, 1);
+
+    source.presets.at(0) = MakePreset("Renamed", "Now");
+    view->reloadData();
+    EXPECT_EQ(view->model()->index(0, 0).data().toString(), QStringLiteral("Renamed"));
+    EXPECT_EQ(source.entryRequests, 2);
 }
 
 TEST_F(LMFormatCollectionViewTest, OnlyTheUsersSelectionsAreReported) {

@@ -183,3 +183,40 @@ TEST_F(LMFormatDataViewTest, ResetMouseStateSendsNoMessageAndTheBorderColourIsLi
     EXPECT_FALSE(item.dataView()->mouseIn());
     EXPECT_EQ(counter.exits, 0);
 }
+
+TEST_F(LMFormatDataViewTest, RowsArePaintedWithoutAWidgetOfTheirOwn) {
+    LoadLongList(60);
+    ASSERT_TRUE(ShowAndWait(ctrl.get()));
+    LMFormatCollectionView* list = ctrl->fmtListView();
+    ASSERT_GT(LiveItemCount(list), 0);
+    EXPECT_TRUE(list->viewport()->findChildren<QWidget*>().isEmpty());
+}
+
+TEST_F(LMFormatDataViewTest, TheEditButtonIsPaintedOnlyOnTheHoveredRow) {
+    ctrl->loadFormatNode(MakeCategory());
+    ASSERT_TRUE(ShowAndWait(ctrl.get()));
+    LMFormatCollectionView* list = ctrl->fmtListView();
+    HoverRow(list, 1);
+    LMFormatDataViewItem* hovered = list->itemAtIndex(1);
+    LMFormatDataViewItem* plain = list->itemAtIndex(0);
+    ASSERT_NE(hovered, nullptr);
+    ASSERT_NE(plain, nullptr);
+    const QRect button =
+        hovered->dataView()->actionButtonGeometry(LMFormatDataView::ActionButton::Edit);
+    ASSERT_FALSE(button.isEmpty());
+    // The glyph is darker than the hover background it sits on; the same place
+    // of a row without hover stays empty.
+    const auto darkest = [&](const QImage& image) {
+        int value = 255;
+        for (int y = button.top(); y <= button.bottom(); ++y) {
+            for (int x = button.left(); x <= button.right(); ++x) {
+                const QColor pixel = image.pixelColor(x, y);
+                if (pixel.alpha() > 0)
+                    value = qMin(value, pixel.value());
+            }
+        }
+        return value;
+    };
+    EXPECT_LT(darkest(RenderCell(hovered->dataView())), Highlight().value() - 60);
+    EXPECT_EQ(darkest(RenderCell(plain->dataView())), 255);
+}

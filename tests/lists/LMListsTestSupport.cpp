@@ -5,6 +5,7 @@
 #include "LMFormatCollectionView.h"
 #include "LMFormatDataViewItem.h"
 
+#include <QAbstractItemView>
 #include <QCursor>
 #include <QGuiApplication>
 #include <QPainter>
@@ -138,8 +139,21 @@ int LiveItemCount(const LMFormatCollectionView* view) {
 QImage RenderCell(LMFormatDataView* view) {
     QImage image(view->size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
+    const auto* list = view->host()
+                           ? qobject_cast<const QAbstractItemView*>(view->host()->parentWidget())
+                           : nullptr;
+    if (!list)
+        return image;
+    // The row painted by the list's own delegate, as the list paints it.
+    QStyleOptionViewItem option;
+    option.rect = view->geometry();
+    option.font = list->font();
+    option.palette = list->palette();
+    option.widget = list;
+    option.state = QStyle::State_Enabled;
     QPainter painter(&image);
-    view->render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+    painter.translate(-view->geometry().topLeft());
+    list->itemDelegate()->paint(&painter, option, list->indexAt(view->geometry().center()));
     painter.end();
     return image;
 }
