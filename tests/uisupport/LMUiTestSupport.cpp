@@ -12,10 +12,11 @@ namespace Lumeran::TestSupport {
 
 void LoadDefaultCatalogueIntoSharedDataSource() {
     auto source = ILMFmtPresetDataSource::Shared();
-    // Each test starts with a new shared data source (SetUp); it loads once.
-    static const ILMFmtPresetDataSource* loadedInto = nullptr;
-    if (loadedInto != source.get()) {
-        loadedInto = source.get();
+    // Each test starts with a new shared data source (SetUp); it loads once. A
+    // weak pointer, because a new source may well get the address of the old.
+    static std::weak_ptr<ILMFmtPresetDataSource> loadedInto;
+    if (loadedInto.lock() != source) {
+        loadedInto = source;
         source->AsyncLoadExternalDataSource(LMDefaultCatalogue::Path(), {});
     }
     source->WaitForLoadingComplete();
