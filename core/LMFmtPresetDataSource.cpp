@@ -98,14 +98,16 @@ void LMFmtPresetDataSource::AsyncLoadExternalDataSource(const std::string& path,
     m_pending = std::async(std::launch::async, [path, load] {
                     return LoadExternalTree(path, load->cancel);
                 }).share();
+    // Watched before the loader thread starts: a completion that collects the
+    // tree takes m_pending, and a copy made after that would be empty.
+    LMLoaderExitGuard::Watch(load, [pending = m_pending](std::chrono::milliseconds timeout) {
+        return pending.wait_for(timeout) == std::future_status::ready;
+    });
     m_loader = std::thread([pending = m_pending, load, completion = std::move(completion)] {
         pending.wait();
         const std::lock_guard lock(load->completing);
         if (completion && !load->cancel)
             completion();
-    });
-    LMLoaderExitGuard::Watch(load, [pending = m_pending](std::chrono::milliseconds timeout) {
-        return pending.wait_for(timeout) == std::future_status::ready;
     });
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "LMCoreExport.h"
-
 #include <memory>
 
 namespace Lumeran {
@@ -11,7 +9,7 @@ class ILMFmtPresetDataSource;
 // Where ILMFmtPresetDataSource::Shared() keeps its instance. Not part of the
 // framework's interface: tests that run many cases in one process start each
 // case from a new instance, as a new process would.
-class LMCORE_EXPORT LMSharedDataSource {
+class LMSharedDataSource {
 public:
     // Never destroyed: the store must outlive every static that might still
     // reach it at exit, and a load that was never waited for must not end the

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "LMListsExport.h"
-
 #include <QAbstractListModel>
 
 #include <functional>
@@ -10,7 +8,7 @@
 // each row's data are asked of the list (which asks its controller), and the
 // count is kept between changes, because a controller changes its data first and
 // tells the list afterwards, as a collection view's data source does.
-class LMLISTS_EXPORT LMFormatCollectionModel : public QAbstractListModel {
+class LMFormatCollectionModel : public QAbstractListModel {
     Q_OBJECT
 
 public:

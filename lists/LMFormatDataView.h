@@ -1,7 +1,5 @@
 #pragma once
 
-#include "LMListsExport.h"
-
 #include <QColor>
 #include <QIcon>
 #include <QPixmap>
@@ -19,7 +17,7 @@ class LMFormatInternationalizationMgr;
 // only visible rows cost anything. The view draws the rounded background of a
 // hovered or selected cell and reports the pointer's entry and exit to its
 // delegate (the item).
-class LMLISTS_EXPORT LMFormatDataView : public QWidget {
+class LMFormatDataView : public QWidget {
     Q_OBJECT
 
 public:

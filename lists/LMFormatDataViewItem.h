@@ -4,7 +4,6 @@
 #include "ILMFormatNode.h"
 #include "ILMFormatPreset.h"
 #include "LMFormatDataViewDelegate.h"
-#include "LMListsExport.h"
 
 #include <QIcon>
 #include <QObject>
@@ -27,7 +26,7 @@ class LMFormatInternationalizationMgr;
 //
 // Items are made and reused by LMFormatCollectionView; each owns its
 // LMFormatDataView, the laid-out cell that the list paints.
-class LMLISTS_EXPORT LMFormatDataViewItem : public QObject, public LMFormatDataViewDelegate {
+class LMFormatDataViewItem : public QObject, public LMFormatDataViewDelegate {
     Q_OBJECT
     Q_PROPERTY(QIcon fmtImage READ fmtImage NOTIFY fmtImageChanged)
     Q_PROPERTY(QString fmtTitle READ fmtTitle NOTIFY fmtTitleChanged)

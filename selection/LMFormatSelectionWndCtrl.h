@@ -4,7 +4,7 @@
 #include "ILMFormatPreset.h"
 #include "LMFormatDataDelegate.h"
 #include "LMFormatEditingWndCtrlDelegate.h"
-#include "LMSelectionExport.h"
+#include "LMMediaFormatPopupExport.h"
 #include "LMTabHeaderViewDelegate.h"
 
 #include <QList>
@@ -31,10 +31,10 @@ class LMFormatSelectionWndCtrl;
 // records every choice in the recent list.
 //
 // One instance per process, made on first use; everything runs on the GUI thread.
-class LMSELECTION_EXPORT LMFormatSelectionWndCtrl : public QWidget,
-                                                    public LMTabHeaderViewDelegate,
-                                                    public LMFormatDataDelegate,
-                                                    public LMFormatEditingWndCtrlDelegate {
+class LMMEDIAFORMATPOPUP_EXPORT LMFormatSelectionWndCtrl : public QWidget,
+                                                           public LMTabHeaderViewDelegate,
+                                                           public LMFormatDataDelegate,
+                                                           public LMFormatEditingWndCtrlDelegate {
     Q_OBJECT
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
     Q_PROPERTY(bool enableSearch READ enableSearch WRITE setEnableSearch NOTIFY enableSearchChanged)

@@ -1,12 +1,10 @@
 #pragma once
 
-#include "LMSelectionExport.h"
-
 namespace Lumeran {
 
 // Not part of the framework's interface: lets tests that run many cases in one
 // process start each case with a new popup window, as a new process would.
-class LMSELECTION_EXPORT LMSharedSelectionWindow {
+class LMSharedSelectionWindow {
 public:
     // Deletes the window LMFormatSelectionWndCtrl::shared() made, if any; the
     // next shared() makes a new one.
