@@ -19,21 +19,35 @@ if [ -z "$tidy" ]; then
   exit 1
 fi
 
-# The compile database names every file with its absolute path.
-root=$(pwd)
-mapfile -t files < <(git ls-files '*.cpp' | while IFS= read -r file; do
-  if grep -qF "\"file\": \"$root/$file\"" "$db"; then echo "$file"; fi
-done)
+# One compile command per file: a file that several programs compile (the test
+# main, shared test helpers) is checked once, not once per program. Only files
+# of the checkout count; generated ones live in the build folder.
+lint_dir="$build_dir/lint"
+mkdir -p "$lint_dir"
+mapfile -t files < <(git ls-files '*.cpp' | python3 -c '
+import json, os, sys
+db, out = sys.argv[1], sys.argv[2]
+ours = {os.path.abspath(line.strip()) for line in sys.stdin if line.strip()}
+seen, kept = set(), []
+for entry in json.load(open(db)):
+    path = os.path.normpath(os.path.join(entry["directory"], entry["file"]))
+    if path in ours and path not in seen:
+        seen.add(path)
+        kept.append(entry)
+json.dump(kept, open(out, "w"), indent=1)
+for path in sorted(seen):
+    print(os.path.relpath(path))
+' "$db" "$lint_dir/compile_commands.json")
 if [ ${#files[@]} -eq 0 ]; then
   echo "run-clang-tidy: none of the sources is in $db" >&2
   exit 1
 fi
 
 # One file per run, its findings printed in one piece when it is done.
-export tidy build_dir
+export tidy lint_dir
 check() {
   local out status=0
-  out=$("$tidy" -p "$build_dir" --quiet "$1" 2>&1) || status=$?
+  out=$("$tidy" -p "$lint_dir" --quiet "$1" 2>&1) || status=$?
   if [ $status -ne 0 ]; then
     printf 'run-clang-tidy: %s\n%s\n' "$1" "$out"
   fi
