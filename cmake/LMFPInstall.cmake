@@ -1,4 +1,4 @@
-# What `cmake --install` gives a host: the shared libraries, their public headers
+# What `cmake --install` gives a host: the four libraries, their public headers
 # (flat, in include/LMMediaFormatPopup/), the compiled string tables, the default
 # catalogue as files, lmformat, and a CMake package so that
 #
@@ -46,27 +46,16 @@ foreach(lib IN LISTS lmfp_libraries)
     target_include_directories(${lib} INTERFACE $<BUILD_INTERFACE:${lmfp_forward_dir}>)
 endforeach()
 
-# In a static build Qt puts each library's embedded resources (catalogue, string
-# tables) into object libraries that the library's users must link; they are
-# installed and exported with it.
-set(lmfp_resource_objects "")
-foreach(lib IN LISTS lmfp_libraries)
-    get_target_property(count ${lib} _qt_generated_resource_target_count)
-    if(count)
-        foreach(index RANGE 1 ${count})
-            list(APPEND lmfp_resource_objects ${lib}_resources_${index})
-        endforeach()
-    endif()
-endforeach()
+# The deprecated per-folder names go into the package too (interface targets).
+get_property(lmfp_compat_aliases GLOBAL PROPERTY LMFP_COMPAT_ALIASES)
 
 # INCLUDES DESTINATION adds include/ to every exported target, so that
 # <LMMediaFormatPopup/ILMMediaFormatPopup.h> works beside <ILMMediaFormatPopup.h>.
-install(TARGETS ${lmfp_libraries} ${lmfp_resource_objects}
+install(TARGETS ${lmfp_libraries} ${lmfp_compat_aliases}
     EXPORT LMMediaFormatPopupTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-    OBJECTS DESTINATION ${CMAKE_INSTALL_LIBDIR}/LMMediaFormatPopup-objects
     INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(FILES ${lmfp_public_headers} DESTINATION ${LMFP_INSTALL_INCLUDEDIR})
 
@@ -75,10 +64,10 @@ if(TARGET lmformat)
     install(TARGETS lmformat RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endif()
 
-# The tables are embedded in LMLocalization; the files are for hosts that ship
-# or inspect them: translations/<code>.lproj/Localizable.qm.
-if(TARGET LMLocalization)
-    get_target_property(lmfp_l10n_dir LMLocalization BINARY_DIR)
+# The tables are embedded in LMCore; the files are for hosts that ship or inspect
+# them: translations/<code>.lproj/Localizable.qm.
+if(TARGET lmfp_localization_obj)
+    get_target_property(lmfp_l10n_dir lmfp_localization_obj BINARY_DIR)
     install(DIRECTORY ${lmfp_l10n_dir}/lproj/ DESTINATION ${LMFP_INSTALL_DATADIR}/translations
         FILES_MATCHING PATTERN "*.qm")
 endif()

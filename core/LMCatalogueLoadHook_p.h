@@ -1,7 +1,5 @@
 #pragma once
 
-#include "LMCoreExport.h"
-
 #include <functional>
 #include <string>
 
@@ -10,7 +8,7 @@ namespace Lumeran {
 // A seam for tests, not part of the framework's interface: a hook the catalogue
 // loader calls on its own thread right before it reads the catalogue, so that a
 // test can hold a load at its start and decide when the file is there to read.
-class LMCORE_EXPORT LMCatalogueLoadHook {
+class LMCatalogueLoadHook {
 public:
     using Hook = std::function<void(const std::string& path)>;
 

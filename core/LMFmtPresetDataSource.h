@@ -2,7 +2,6 @@
 
 #include "ILMArtworkImageMgr.h"
 #include "ILMFmtPresetDataSource.h"
-#include "LMCoreExport.h"
 #include "LMLoaderExitGuard.h"
 
 #include <atomic>
@@ -21,7 +20,7 @@ class LMStoredList;
 // Destroying an instance whose load has not been waited for ends the process, as
 // destroying any running std::thread does; call WaitForLoadingComplete() first.
 // (The shared instance is never destroyed; at exit its load is abandoned.)
-class LMCORE_EXPORT LMFmtPresetDataSource final : public ILMFmtPresetDataSource {
+class LMFmtPresetDataSource final : public ILMFmtPresetDataSource {
 public:
     // Reads the recent and custom trees from ILMAppSettings::Shared().
     LMFmtPresetDataSource();

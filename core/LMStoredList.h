@@ -1,7 +1,5 @@
 #pragma once
 
-#include "LMCoreExport.h"
-
 #include "ILMAppSettings.h"
 #include "ILMFormatNode.h"
 #include "LMPresetBackup.h"
@@ -21,7 +19,7 @@ namespace Lumeran {
 // the stored value aside before anything can overwrite what it could not read;
 // saving merges with what another process saved meanwhile, keeps the replaced
 // value among the backups, and never overwrites a value of a newer version.
-class LMCORE_EXPORT LMStoredList {
+class LMStoredList {
 public:
     enum class Kind { Recent, Custom };
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "LMCoreExport.h"
-
 #include <QJsonObject>
 
 namespace Lumeran {
@@ -11,7 +9,7 @@ namespace Lumeran {
 // ours what this process is about to save. Entries are compared by their whole
 // JSON form, so an entry changed in place counts as one removed and one added.
 // What either side added is kept and what either side removed stays removed.
-class LMCORE_EXPORT LMStoredListMerge {
+class LMStoredListMerge {
 public:
     // The recent tree: children are entries, oldest first. Entries this process
     // selected since base stay the newest, in the order it selected them.

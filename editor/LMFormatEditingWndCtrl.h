@@ -1,6 +1,6 @@
 #pragma once
 
-#include "LMEditorExport.h"
+#include "LMMediaFormatPopupExport.h"
 
 #include <QDialog>
 #include <QString>
@@ -32,7 +32,7 @@ class ILMFormatPreset;
 // stream is missing, when the codec is the automatic one (the muxer decides) or
 // when the codec has no current value for it. The quality box never offers a
 // codec's last level, its archival "Best" setting.
-class LMEDITOR_EXPORT LMFormatEditingWndCtrl : public QDialog {
+class LMMEDIAFORMATPOPUP_EXPORT LMFormatEditingWndCtrl : public QDialog {
     Q_OBJECT
     Q_PROPERTY(bool btnSaved READ btnSaved NOTIFY btnSavedChanged)
 

@@ -3,7 +3,6 @@
 // Not part of the framework's interface: the editor's insides, for the editor
 // itself and for tests that look into it.
 
-#include "LMEditorExport.h"
 #include "LMFormatEditingWndCtrl.h"
 
 #include <QPointer>
@@ -28,7 +27,7 @@ class LMFormatEditingWndCtrl;
 // The editor's state and the operations behind its controls: filling the boxes
 // from the editing copy, the boxes' and buttons' actions, and naming a new
 // preset.
-class LMEDITOR_EXPORT LMFormatEditingWndCtrlPrivate {
+class LMFormatEditingWndCtrlPrivate {
 public:
     explicit LMFormatEditingWndCtrlPrivate(LMFormatEditingWndCtrl* owner);
     ~LMFormatEditingWndCtrlPrivate();

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "LMEditorExport.h"
-
 #include <QDialog>
 
 #include <functional>
@@ -14,7 +12,7 @@ class LMNewPresetView;
 // an informative line, an accessory view and the buttons "OK" and "Cancel". It
 // is window-modal, so only the window it is shown over is blocked, and it
 // answers with the code of the button that ended it.
-class LMEDITOR_EXPORT LMNewPresetPrompt : public QDialog {
+class LMNewPresetPrompt : public QDialog {
     Q_OBJECT
 
 public:

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "LMEditorExport.h"
-
 #include <QString>
 #include <QWidget>
 
@@ -13,7 +11,7 @@ class QLineEdit;
 // The one-field view in which the user names a new custom preset. strValue
 // carries the proposed name in and the typed name out: setting it shows it in
 // the field, and every edit of the field updates it.
-class LMEDITOR_EXPORT LMNewPresetView : public QWidget {
+class LMNewPresetView : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString strValue READ strValue WRITE setStrValue NOTIFY strValueChanged)
 

@@ -5,7 +5,6 @@
 #include "LMFormatCollectionViewDataSource.h"
 #include "LMFormatCollectionViewDelegate.h"
 #include "LMFormatDataViewItemDelegate.h"
-#include "LMListsExport.h"
 
 #include <QString>
 #include <QWidget>
@@ -23,10 +22,10 @@ class LMFormatInternationalizationMgr;
 // cells offer a remove button, and removal goes straight to the shared data
 // source; otherwise they offer an edit button, which asks the delegate to edit.
 // A search text narrows the tree to what matches.
-class LMLISTS_EXPORT LMFmtNodeViewCtrl : public QWidget,
-                                         public LMFormatDataViewItemDelegate,
-                                         public LMFormatCollectionViewDataSource,
-                                         public LMFormatCollectionViewDelegate {
+class LMFmtNodeViewCtrl : public QWidget,
+                          public LMFormatDataViewItemDelegate,
+                          public LMFormatCollectionViewDataSource,
+                          public LMFormatCollectionViewDelegate {
     Q_OBJECT
 
 public:

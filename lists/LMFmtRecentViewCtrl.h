@@ -4,7 +4,6 @@
 #include "LMFormatCollectionViewDataSource.h"
 #include "LMFormatCollectionViewDelegate.h"
 #include "LMFormatDataViewItemDelegate.h"
-#include "LMListsExport.h"
 
 #include <QString>
 #include <QWidget>
@@ -20,10 +19,10 @@ class LMFormatInternationalizationMgr;
 // delegate; an entry's remove button drops it from the stored list at once. A
 // search text filters the entries; the unfiltered list is never copied, but read
 // from the data source each time.
-class LMLISTS_EXPORT LMFmtRecentViewCtrl : public QWidget,
-                                           public LMFormatDataViewItemDelegate,
-                                           public LMFormatCollectionViewDataSource,
-                                           public LMFormatCollectionViewDelegate {
+class LMFmtRecentViewCtrl : public QWidget,
+                            public LMFormatDataViewItemDelegate,
+                            public LMFormatCollectionViewDataSource,
+                            public LMFormatCollectionViewDelegate {
     Q_OBJECT
 
 public:

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "LMFormatEntry.h"
-#include "LMListsExport.h"
 
 #include <QAbstractListModel>
 
@@ -15,7 +14,7 @@
 // rows that are shown or read. The count is kept between changes, because a
 // controller changes its data first and tells the list afterwards, as a
 // collection view's data source does.
-class LMLISTS_EXPORT LMFormatCollectionModel : public QAbstractListModel {
+class LMFormatCollectionModel : public QAbstractListModel {
     Q_OBJECT
 
 public:

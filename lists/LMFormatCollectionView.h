@@ -1,7 +1,5 @@
 #pragma once
 
-#include "LMListsExport.h"
-
 #include <QList>
 #include <QListView>
 #include <QString>
@@ -29,7 +27,7 @@ class LMFormatDataViewItem;
 // row); the program's own selections are not. Delete or Backspace on a removable
 // current cell asks to remove it. Printable keys are offered as textTyped() for
 // whoever owns a search field; Escape is left to the window.
-class LMLISTS_EXPORT LMFormatCollectionView : public QListView {
+class LMFormatCollectionView : public QListView {
     Q_OBJECT
     Q_PROPERTY(int itemHeight READ itemHeight WRITE setItemHeight)
     Q_PROPERTY(bool selectsOnNavigation READ selectsOnNavigation WRITE setSelectsOnNavigation)

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "LMListsExport.h"
-
 #include <QColor>
 #include <QPointer>
 #include <QRect>
@@ -19,7 +17,7 @@ class QWidget;
 // one is held down. It is no widget: the list's delegate paints the row, and the
 // view draws only the rounded background of a hovered or selected row. It
 // reports the pointer's entry and exit to its delegate (the item).
-class LMLISTS_EXPORT LMFormatDataView {
+class LMFormatDataView {
 public:
     enum class ActionButton { None, Edit, Remove };
 

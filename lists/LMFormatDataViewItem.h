@@ -5,7 +5,6 @@
 #include "ILMFormatPreset.h"
 #include "LMFormatDataViewDelegate.h"
 #include "LMFormatEntry.h"
-#include "LMListsExport.h"
 
 #include <QIcon>
 #include <QObject>
@@ -28,7 +27,7 @@ class LMFormatInternationalizationMgr;
 // Items are made and reused by LMFormatCollectionView for the rows in view only;
 // each owns its LMFormatDataView, the row's hover and button state. The list's
 // delegate paints the row; nothing here is a widget.
-class LMLISTS_EXPORT LMFormatDataViewItem : public QObject, public LMFormatDataViewDelegate {
+class LMFormatDataViewItem : public QObject, public LMFormatDataViewDelegate {
     Q_OBJECT
     Q_PROPERTY(QIcon fmtImage READ fmtImage NOTIFY fmtImageChanged)
     Q_PROPERTY(QString fmtTitle READ fmtTitle NOTIFY fmtTitleChanged)

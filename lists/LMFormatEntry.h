@@ -3,7 +3,6 @@
 #include "ILMFmtPresetRecentItem.h"
 #include "ILMFormatNode.h"
 #include "ILMFormatPreset.h"
-#include "LMListsExport.h"
 
 #include <QIcon>
 #include <QString>
@@ -14,7 +13,7 @@
 // preset (at most one of them), and the texts and image derived from it. The
 // list's model keeps one per row it was asked about, with the derived values, so
 // each is worked out once per row and not once per paint.
-class LMLISTS_EXPORT LMFormatEntry {
+class LMFormatEntry {
 public:
     LMFormatEntry() = default;
     static LMFormatEntry

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "LMLocalizationExport.h"
+#include "LMCoreExport.h"
 
 #include <QObject>
 #include <QString>
@@ -49,7 +49,7 @@ inline const QString LMFormatLanguageDidChangeNotification =
 //
 // Main thread only, like the views bound to it; sharedObject() itself may be
 // called from any thread.
-class LMLOCALIZATION_EXPORT LMFormatInternationalizationMgr : public QObject {
+class LMCORE_EXPORT LMFormatInternationalizationMgr : public QObject {
     Q_OBJECT
     Q_PROPERTY(QStringList allKey READ allKey CONSTANT)
     Q_PROPERTY(QString language READ language NOTIFY languageDidChange)

@@ -18,9 +18,8 @@ namespace Lumeran {
 // only the options that differ from a codec's defaults are stored, so a large
 // catalogue costs little more in memory than its file. Codec presets handed out
 // are views that read and write this state.
-class LMMEDIAFORMAT_EXPORT LMFormatPreset final
-    : public ILMFormatPreset,
-      public std::enable_shared_from_this<LMFormatPreset> {
+class LMFormatPreset final : public ILMFormatPreset,
+                             public std::enable_shared_from_this<LMFormatPreset> {
 public:
     explicit LMFormatPreset(const LMContainerInfo* container);
 

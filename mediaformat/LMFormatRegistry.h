@@ -1,6 +1,5 @@
 #pragma once
 
-#include "LMMediaFormatExport.h"
 #include "LMOptionPreset.h"
 #include "LMQualityPreset.h"
 
@@ -18,7 +17,7 @@ namespace Lumeran {
 enum class LMOptionList { Resolution = 0, Framerate, Quality, Samplerate, ChannelLayout };
 constexpr int LMOptionListCount = 5;
 
-struct LMMEDIAFORMAT_EXPORT LMCodecInfo {
+struct LMCodecInfo {
     std::string id;
     std::string name;
     std::string encoder; // empty for the automatic codec
@@ -40,7 +39,7 @@ struct LMMEDIAFORMAT_EXPORT LMCodecInfo {
     const std::string& IdAt(LMOptionList list, int index) const;
 };
 
-struct LMMEDIAFORMAT_EXPORT LMContainerInfo {
+struct LMContainerInfo {
     std::string id;
     std::string name;
     std::string muxer;
@@ -60,7 +59,7 @@ struct LMMEDIAFORMAT_EXPORT LMContainerInfo {
 // The embedded table of containers and codecs every preset refers to. It is
 // read once from the library's resources, on first use from whichever thread
 // comes first, and never changes afterwards.
-class LMMEDIAFORMAT_EXPORT LMFormatRegistry {
+class LMFormatRegistry {
 public:
     static const LMFormatRegistry& Instance();
 

@@ -2,7 +2,7 @@
 
 #include "ILMFormatNode.h"
 #include "ILMFormatPreset.h"
-#include "LMSelectionExport.h"
+#include "LMMediaFormatPopupExport.h"
 
 #include <QRect>
 #include <QRectF>
@@ -22,7 +22,7 @@ class LMFormatSelectionWndCtrlPrivate;
 // records every choice in the recent list.
 //
 // One instance per process, made on first use; everything runs on the GUI thread.
-class LMSELECTION_EXPORT LMFormatSelectionWndCtrl : public QWidget {
+class LMMEDIAFORMATPOPUP_EXPORT LMFormatSelectionWndCtrl : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
     Q_PROPERTY(bool enableSearch READ enableSearch WRITE setEnableSearch NOTIFY enableSearchChanged)

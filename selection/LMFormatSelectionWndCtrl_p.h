@@ -6,7 +6,6 @@
 #include "LMFormatDataDelegate.h"
 #include "LMFormatEditingWndCtrlDelegate.h"
 #include "LMFormatSelectionWndCtrl.h"
-#include "LMSelectionExport.h"
 #include "LMTabHeaderViewDelegate.h"
 
 #include <QList>
@@ -26,10 +25,9 @@ class LMFormatSelectionWndCtrl;
 // The popup's state and the work behind its public calls. It is the delegate of
 // the tab strip, of every list and of the editor, so that those messages stay
 // out of the window's interface.
-class LMSELECTION_EXPORT LMFormatSelectionWndCtrlPrivate final
-    : public LMTabHeaderViewDelegate,
-      public LMFormatDataDelegate,
-      public LMFormatEditingWndCtrlDelegate {
+class LMFormatSelectionWndCtrlPrivate final : public LMTabHeaderViewDelegate,
+                                              public LMFormatDataDelegate,
+                                              public LMFormatEditingWndCtrlDelegate {
 public:
     explicit LMFormatSelectionWndCtrlPrivate(LMFormatSelectionWndCtrl* owner);
     ~LMFormatSelectionWndCtrlPrivate() override;

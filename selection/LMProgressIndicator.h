@@ -1,7 +1,5 @@
 #pragma once
 
-#include "LMSelectionExport.h"
-
 #include <QWidget>
 
 class QVariantAnimation;
@@ -9,7 +7,7 @@ class QVariantAnimation;
 // The small spinning wheel the popup shows until its formats have arrived:
 // twelve spokes whose brightness runs round the circle, like the platform's own
 // indeterminate indicator.
-class LMSELECTION_EXPORT LMProgressIndicator : public QWidget {
+class LMProgressIndicator : public QWidget {
     Q_OBJECT
     Q_PROPERTY(bool animating READ isAnimating NOTIFY animatingChanged)
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "LMSelectionExport.h"
-
 #include <QColor>
 
 class QAbstractButton;
@@ -13,7 +11,7 @@ class QWidget;
 // white when the tab is the selected one and light lilac-grey otherwise, with the
 // tab's image leading its title. The button that owns the cell hands it the
 // frame and its own state; the cell keeps only the colours.
-class LMSELECTION_EXPORT LMTabButtonCell {
+class LMTabButtonCell {
 public:
     LMTabButtonCell();
 

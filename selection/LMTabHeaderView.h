@@ -1,7 +1,5 @@
 #pragma once
 
-#include "LMSelectionExport.h"
-
 #include <QColor>
 #include <QList>
 #include <QRect>
@@ -27,7 +25,7 @@ class QString;
 // Indexes follow the buttons' order. Removing a tab neither moves the others nor
 // renumbers them (a gap stays until the next addition or insertion arranges the
 // strip again), and neither removing nor inserting adjusts the selected index.
-class LMSELECTION_EXPORT LMTabHeaderView : public QWidget {
+class LMTabHeaderView : public QWidget {
     Q_OBJECT
 
 public:

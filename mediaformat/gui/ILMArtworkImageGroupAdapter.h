@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ILMArtworkImageGroup.h"
-#include "LMMediaFormatGuiExport.h"
+#include "LMMediaFormatPopupExport.h"
 
 #include <QIcon>
 
@@ -13,7 +13,7 @@ namespace Lumeran {
 // device pixel ratio the icon is asked for, so it stays crisp on HiDPI screens;
 // bitmaps in a group become the icon's sizes. Files that cannot be read are
 // skipped, and a group with nothing readable gives a null icon.
-class LMMEDIAFORMATGUI_EXPORT ILMArtworkImageGroupAdapter {
+class LMMEDIAFORMATPOPUP_EXPORT ILMArtworkImageGroupAdapter {
 public:
     static QIcon
     imageFromArtworkImageGroup(const std::shared_ptr<const ILMArtworkImageGroup>& group);

@@ -6,7 +6,7 @@ namespace Lumeran {
 
 // The facade on Qt Widgets: forwards to the selection window and the preset
 // editor, and moves the end of the catalogue load onto the GUI thread.
-class LMMEDIAFORMATPOPUP_EXPORT LMMediaFormatPopupQt final : public ILMMediaFormatPopup {
+class LMMediaFormatPopupQt final : public ILMMediaFormatPopup {
 public:
     void PopupSelection(const std::pair<float, float>& point, Completion completion) override;
     void PopupSelection(const Rect& rect, Completion completion) override;
