@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The README's commands. Everything builds into build/ with CMake.
 BUILD_DIR ?= build
 JOBS ?= 2

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Format model figures: loading a large catalogue against a bare JSON parse,
 // the memory the loaded tree holds against the file size, and the cost of
 // storing a long recent list. Each figure is printed beside its target.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Preset data source figures: a search keystroke on a large category against a
 // recursive QSortFilterProxyModel, pushing and saving a long recent list against
 // a bare durable write of the same bytes, and making the data source at host

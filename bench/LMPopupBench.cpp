@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Popup figures, offscreen: the popup shown the first time in a process (window
 // made, tabs built, first frame painted) and shown again; a tab of 10,000
 // presets brought up; a search keystroke typed into the field of a category of

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # What `cmake --install` gives a host: the four libraries, their public headers
 # (flat, in include/LMMediaFormatPopup/), the compiled string tables, the default
 # catalogue as files, lmformat, and a CMake package so that

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Shared settings for every target of the project, and how the four libraries
 # are put together from the object libraries of their folders.
 include(GenerateExportHeader)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ILMFmtPresetDataSource.h"
 
 #include "LMFmtPresetDataSource.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ILMFmtPresetRecentItem.h"
 
 #include "ILMFmtPresetDataSource.h"

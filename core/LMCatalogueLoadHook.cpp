@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMCatalogueLoadHook_p.h"
 
 #include <memory>

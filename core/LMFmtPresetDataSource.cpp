@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFmtPresetDataSource.h"
 
 #include "ILMFileProvider.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMPresetBackupFolder.h"
 
 #include "ILMFileProvider.h"

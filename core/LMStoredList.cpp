@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMStoredList.h"
 
 #include "ILMAppSettings.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 // Not part of the framework's interface: the editor's insides, for the editor

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMNewPresetPrompt.h"
 
 #include "LMFormatInternationalizationMgr.h"

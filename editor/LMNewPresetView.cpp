@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMNewPresetView.h"
 
 #include "ILMFormatNode.h"

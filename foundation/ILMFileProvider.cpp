@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ILMFileProvider.h"
 
 #include <QFile>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ILMJsonReader.h"
 
 #include "ILMFileProvider.h"

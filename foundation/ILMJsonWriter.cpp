@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ILMJsonWriter.h"
 
 #include <QJsonArray>

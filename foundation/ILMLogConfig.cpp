@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ILMLogConfig.h"
 
 #include <cstdarg>

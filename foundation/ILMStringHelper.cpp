@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ILMStringHelper.h"
 
 #include <QString>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Base64 both ways. The stored lists are Base64 text in the settings file,
 // which anyone can edit, so Decode() meets arbitrary text; and whatever is
 // encoded must come back byte for byte.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Catalogue text -> format tree -> its JSON form -> format tree.
 //
 // Whatever tree the reader accepts must read back, equal, from the JSON that

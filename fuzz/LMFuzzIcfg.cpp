@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The artwork configuration ("icfg") that sits beside a catalogue. A host may
 // ship its own, so it is read from disk as it is: the input is written to a
 // file in a folder that also holds a few artwork files, for the entries to find.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The stored recent and custom lists, read back through the data source.
 //
 // The settings file is the user's to edit (and other versions write it), so

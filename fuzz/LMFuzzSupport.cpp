@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFuzzSupport.h"
 
 #include "ILMLogConfig.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFmtNodeViewCtrl.h"
 
 #include "ILMFmtPresetDataSource.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFmtRecentViewCtrl.h"
 
 #include "LMFormatCollectionView.h"

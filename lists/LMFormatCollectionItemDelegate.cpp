@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFormatCollectionItemDelegate.h"
 
 #include "LMFormatCellLayout.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFormatCollectionModel.h"
 
 #include <optional>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFormatEntry.h"
 
 #include "ILMArtworkImageGroupAdapter.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMArtworkImageMgr.h"
 
 #include "ILMJsonReader.h"

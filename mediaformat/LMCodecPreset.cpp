@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMCodecPreset.h"
 
 namespace Lumeran {

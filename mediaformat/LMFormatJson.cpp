@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFormatJson.h"
 
 #include "ILMLogConfig.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFormatNode.h"
 
 #include "LMFormatJson.h"

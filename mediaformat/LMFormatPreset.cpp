@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFormatPreset.h"
 
 #include "LMCodecPreset.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFormatRegistry.h"
 
 #include "ILMLogConfig.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMMediaFormatPopupQt.h"
 
 #include "LMFormatEditingWndCtrl.h"

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Installs every Debian package the build, the tests, the benchmarks and the
 # demo need; with --fuzz, what the fuzz build needs on top (clang, libFuzzer and
 # llvm-symbolizer). Safe to run again: packages already present are skipped, and

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Writes the seed corpora of fuzz/corpus/ again: pieces of the default catalogue
 # and lists stored the way the data source stores them (made with lmformat), a
 # few hand-made inputs beside them. Run it after the catalogue or the stored form

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Runs every benchmark program of a build folder, one after the other.
 set -euo pipefail
 build=${1:-build}

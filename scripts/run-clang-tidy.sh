@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # clang-tidy 14 over the project's own .cpp files, with the checks of .clang-tidy
 # (all of them errors), using the build's compile_commands.json. The build must
 # have run: the sources include headers that moc and uic write into it.

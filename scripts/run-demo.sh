@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # `make demo`: runs the demo host. With a display it opens the demo converter; on
 # a machine without one (or with DEMO_TOUR=1) the demo's tour (tools/demo-tour)
 # walks through the popup, the editor and a conversion offscreen on a 1440 x 900

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Runs every libFuzzer target of a fuzz build (configured with -DLMFP_FUZZ=ON,
 # see `make fuzz`) for a while each, one after the other, and says what it found.
 #   scripts/run-fuzzers.sh BUILD_DIR SECONDS

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Runs every GoogleTest program of a build whole, all its cases in one process,
 # as a developer runs one from the shell. ctest runs each case in a process of
 # its own; this lane shows that no case depends on running alone or first.

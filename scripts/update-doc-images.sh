@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Refreshes the pictures in docs/images/ from the demo's headless tour
 # (`make demo` on a machine without a display writes them to <build>/screenshots/).
 set -euo pipefail

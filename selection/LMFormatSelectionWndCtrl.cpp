@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFormatSelectionWndCtrl.h"
 
 #include "LMFormatSelectionWndCtrl_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 // Not part of the framework's interface: the popup window's insides, for the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMProgressIndicator.h"
 
 #include <QPainter>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMDemoHostWindow.h"
 
 #include "LMDemoConverter.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The demo host. Run it to try the popup:
 //     lmfp-demo-host [--catalogue FILE.json]
 // On a machine without a display, `make demo` runs tools/demo-tour instead,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A host application in one file: a window with a "Format..." button that pops the
 // format popup up under itself and shows the chosen preset with its FFmpeg options.
 //

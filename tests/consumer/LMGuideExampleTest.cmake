@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The integration guide shows examples/minimal-host/main.cpp, which the build
 # compiles; this keeps the page's copy identical to the file.
 #   cmake -DGUIDE=<docs/integration.md> -DEXAMPLE=<main.cpp> -DMARKER=<line before the block>

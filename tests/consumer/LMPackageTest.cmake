@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Installs the current build into a prefix of its own and builds the consumer
 # project against that prefix only, so the installed files alone (package,
 # headers, libraries with their run paths, catalogue) have to carry a host.

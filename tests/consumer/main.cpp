@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A host program that uses only the installed package: it loads a catalogue,
 // pops the format popup up, chooses the first preset of the visible list the way
 // a user does (a mouse click), and checks what its completion received.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ILMFmtPresetDataSource.h"
 #include "ILMAppSettings.h"
 #include "ILMBase64Codec.h"

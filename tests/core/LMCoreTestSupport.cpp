@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMCoreTestSupport.h"
 
 #include "LMCatalogueLoadHook_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFmtPresetDataSource.h"
 #include "ILMAppSettings.h"
 #include "ILMArtworkImageMgr.h"

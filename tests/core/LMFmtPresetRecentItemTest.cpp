@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ILMArtworkImageMgr.h"
 #include "ILMFmtPresetDataSource.h"
 #include "ILMFmtPresetRecentItem.h"

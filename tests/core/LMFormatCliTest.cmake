@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Runs lmformat's list and search commands against a settings file of its own.
 #   cmake -DLMFORMAT=<exe> -DCATALOGUE=<formats.json> -DWORK_DIR=<dir> -DSCENARIO=<name>
 #         -P LMFormatCliTest.cmake

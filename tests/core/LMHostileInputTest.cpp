@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Paths that are not what they seem: a settings file, an artwork configuration or
 // a catalogue that is a named pipe, a device that never ends, a file too large.
 // None of them may block the host's thread or grow memory without bound. Each

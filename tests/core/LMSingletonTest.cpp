@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMSingleton.h"
 
 #include "LMSingleton_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A stand-in host process for the tests that need real processes over one store:
 // two copies of a host saving at once, and a host killed in the middle of a save.
 //

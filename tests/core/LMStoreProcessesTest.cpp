@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Real processes over one settings store: two copies of a host saving at once,
 // and hosts killed at random moments of a save.
 

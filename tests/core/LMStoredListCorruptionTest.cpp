@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A sweep over the ways a stored list gets damaged: by hand edits, other tools,
 // other versions, truncated writes of other programs, bad bytes. Whatever the
 // damage, no entry that can still be read is lost, and a value that could not be

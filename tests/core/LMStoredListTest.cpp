@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The stored recent and custom lists on a bad day: damaged or foreign values,
 // failed saves, two copies of a host, backups and versions. Every test works on a
 // settings file of its own and looks at what a new data source reads back.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMStoredListTestSupport.h"
 
 #include "ILMAppSettings.h"

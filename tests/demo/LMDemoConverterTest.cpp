@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMDemoConverter.h"
 
 #include "ILMFormatPreset.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A second host process for the end-to-end tests: it starts over a settings file
 // that an earlier process wrote, pops the selection up through the facade as a
 // host would, and prints what the user sees, one "<kind>: <text>" line each.

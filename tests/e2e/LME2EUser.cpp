@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LME2EUser.h"
 
 #include <QAbstractItemView>

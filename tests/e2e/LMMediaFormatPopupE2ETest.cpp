@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The framework as a host and its user meet it: every action goes through the
 // facade or through the windows on screen (tabs, rows, edit buttons, the
 // editor's boxes and buttons), and what is checked is what the user sees and

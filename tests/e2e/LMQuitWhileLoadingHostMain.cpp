@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A host that quits while the catalogue is still loading, the way a user closes
 // an application right after starting it: it names the catalogue, shows the popup
 // and quits after the given number of milliseconds.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Quitting a host at random moments of a large catalogue load: the process always
 // ends normally, whether the load was over, half way or not yet started.
 

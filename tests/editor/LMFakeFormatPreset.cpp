@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFakeFormatPreset.h"
 
 #include <utility>

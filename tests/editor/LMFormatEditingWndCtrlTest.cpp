@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFormatEditingWndCtrl.h"
 
 #include "LMFormatEditingWndCtrl_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ILMAppSettings.h"
 #include "LMTestEnvironment.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ILMBase64Codec.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFormatCollectionView.h"
 
 #include "LMFormatCollectionModel.h"

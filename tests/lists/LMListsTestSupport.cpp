@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMListsTestSupport.h"
 
 #include "ILMFmtPresetDataSource.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFormatInternationalizationMgr.h"
 
 #include "ILMAppSettings.h"

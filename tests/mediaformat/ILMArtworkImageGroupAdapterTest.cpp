@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ILMArtworkImageGroupAdapter.h"
 #include "ILMArtworkImageMgr.h"
 #include "ILMFileProvider.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ILMArtworkImageMgr.h"
 #include "ILMFileProvider.h"
 #include "LMDefaultCatalogue.h"

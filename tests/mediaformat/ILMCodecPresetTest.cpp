@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ILMCodecPreset.h"
 #include "LMFormatRegistry.h"
 #include "LMFormatTreeFactory.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ILMFormatNode.h"
 #include "ILMJsonReader.h"
 #include "ILMJsonWriter.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Encodes a half-second synthetic clip with every preset of the default
 // catalogue and checks with ffprobe that the file is what the preset says:
 // container, codecs, frame size, frame rate, sample rate and channel count.

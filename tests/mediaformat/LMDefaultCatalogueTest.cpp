@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMDefaultCatalogue.h"
 #include "LMFormatTreeFactory.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFFmpegArguments.h"
 #include "LMFormatTreeFactory.h"
 

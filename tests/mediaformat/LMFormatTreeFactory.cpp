@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMFormatTreeFactory.h"
 
 #include "ILMJsonReader.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ILMMediaFormatPopup.h"
 
 #include "ILMFmtPresetDataSource.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMTabButtonCell.h"
 
 #include "LMTabHeaderView.h"

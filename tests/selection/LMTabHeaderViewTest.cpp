@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMTabHeaderView.h"
 
 #include "LMFormatInternationalizationMgr.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMTestEnvironment.h"
 
 #include "ILMAppSettings.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QCoreApplication>
 #ifdef LMFP_TEST_GUI
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMDemoTour.h"
 
 #include "ILMFmtPresetDataSource.h"

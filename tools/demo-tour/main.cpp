@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The demo's scripted tour, which `make demo` runs on a machine without a
 // display: it drives the demo host's window through the popup, the editor and a
 // conversion as a user would and writes a screenshot of every step.

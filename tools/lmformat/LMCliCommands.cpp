@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMCliCommands.h"
 
 #include "LMCatalogueCommands.h"

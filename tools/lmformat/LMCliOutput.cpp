@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMCliOutput.h"
 
 #include <cstdio>

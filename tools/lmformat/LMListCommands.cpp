@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "LMListCommands.h"
 
 #include "ILMFmtPresetDataSource.h"

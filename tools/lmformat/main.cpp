@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // lmformat: inspect format catalogues and the presets they hold, search them,
 // and look after the recent and custom lists in the application settings.
 // `lmformat --help` lists the commands; LMCliCommands.cpp holds their table.
