@@ -10,6 +10,7 @@
 #include <LMMediaFormatPopup/LMFormatInternationalizationMgr.h>
 
 #include <QActionGroup>
+#include <QApplication>
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QFormLayout>
@@ -215,4 +216,10 @@ void LMDemoHostWindow::conversionFinished(bool ok, const QString& outputOrError)
         m_progress->setValue(0);
         m_status->setText(QStringLiteral("The encode failed:\n") + outputOrError);
     }
+}
+
+void LMDemoHostWindow::nameApplication() {
+    QApplication::setOrganizationName(QStringLiteral("Lumeran"));
+    QApplication::setApplicationName(QStringLiteral("LMMediaFormatPopup Demo"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Format Demo"));
 }

@@ -27,6 +27,10 @@ public:
     explicit LMDemoHostWindow(QWidget* parent = nullptr);
     ~LMDemoHostWindow() override;
 
+    // The application's names, which also name its settings file and the
+    // popup's prompts; called once, before the window is made.
+    static void nameApplication();
+
     QPushButton* formatButton() const { return m_formatButton; }
     QPushButton* editButton() const { return m_editButton; }
     QPushButton* convertButton() const { return m_convertButton; }

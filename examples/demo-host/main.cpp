@@ -16,9 +16,7 @@ using namespace Lumeran;
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    QApplication::setOrganizationName(QStringLiteral("Lumeran"));
-    QApplication::setApplicationName(QStringLiteral("LMMediaFormatPopup Demo"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Format Demo"));
+    LMDemoHostWindow::nameApplication();
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Chooses an output format with the popup."));

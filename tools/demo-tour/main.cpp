@@ -7,6 +7,7 @@
 
 #include "ILMAppSettings.h"
 #include "LMDefaultCatalogue.h"
+#include "LMDemoHostWindow.h"
 #include "LMDemoTour.h"
 
 #include <QApplication>
@@ -19,10 +20,8 @@ using namespace Lumeran;
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    // The same names as the demo host's, so the pictures show what a user sees.
-    QApplication::setOrganizationName(QStringLiteral("Lumeran"));
-    QApplication::setApplicationName(QStringLiteral("LMMediaFormatPopup Demo"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Format Demo"));
+    // The demo host's names, so the pictures show what a user sees.
+    LMDemoHostWindow::nameApplication();
 
     QCommandLineParser parser;
     parser.setApplicationDescription(

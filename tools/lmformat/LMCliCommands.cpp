@@ -87,7 +87,7 @@ std::string GroupUsage(const QString& group) {
 }
 
 const LMCliCommand* Find(const QString& group, const QString& verb) {
-    const auto found =
+    const auto* const found =
         std::find_if(kCommands.begin(), kCommands.end(), [&](const LMCliCommand& command) {
             if (group.isEmpty())
                 return GroupsOf(command).isEmpty() && NameOf(command) == verb;
