@@ -22,12 +22,15 @@ private:
     virtual void DropForTesting() = 0;
 };
 
-// The one way the framework keeps a process-wide instance (the data source, the
-// popup window, the editor): made by the owner's factory on first use, on the
-// thread that runs the host's user interface, and never destroyed, so nothing
-// depends on the order in which statics and the application object go at exit
-// (a widget must not be deleted after the application object, and a load still
-// running at exit must find its store).
+// The one way the framework keeps a process-wide instance (the facade, the data
+// source, the popup window, the editor, the language manager): made by the
+// owner's factory on first use, on the thread that runs the host's user
+// interface, and never destroyed, so nothing depends on the order in which
+// statics and the application object go at exit (a widget must not be deleted
+// after the application object, and a load still running at exit must find its
+// store). The settings store is the one exception (ILMAppSettings::Shared()):
+// it lives in the foundation below, and a test's reset must never drop it, for
+// it is what points the test at its own settings file.
 //
 // Define one per class, at namespace scope in the class's source file, so that
 // every library and program reaches the same one:
@@ -40,18 +43,32 @@ public:
     // Run before a test drops the instance, for work that must finish first.
     using Settle = void (*)(T&);
 
-    constexpr explicit LMSingleton(Factory make, Settle settle = nullptr)
-        : m_make(make), m_settle(settle) {}
+    // What a test's reset does with the instance.
+    enum class OnReset {
+        Drop,
+        // For an instance that widgets made outside the singletons (a test's own
+        // windows) hold by plain pointer, and whose state a test sets itself.
+        Keep
+    };
+
+    constexpr explicit LMSingleton(Factory make, Settle settle = nullptr,
+                                   OnReset onReset = OnReset::Drop)
+        : m_make(make), m_settle(settle), m_onReset(onReset) {}
 
     const std::shared_ptr<T>& Instance() {
         if (!m_instance)
             m_instance = new std::shared_ptr<T>(); // never freed, see above
         if (!*m_instance) {
             *m_instance = m_make();
-            Register(this);
+            if (m_onReset == OnReset::Drop)
+                Register(this);
         }
         return *m_instance;
     }
+
+    // The instance if it has been made, without making it: for a caller on
+    // another thread that only runs after the user interface made it.
+    std::shared_ptr<T> Existing() const { return m_instance ? *m_instance : nullptr; }
 
 private:
     void DropForTesting() override {
@@ -64,6 +81,7 @@ private:
 
     Factory m_make;
     Settle m_settle;
+    OnReset m_onReset;
     std::shared_ptr<T>* m_instance = nullptr;
 };
 

@@ -3,6 +3,7 @@
 
 #include "ILMAppSettings.h"
 #include "LMLocalizableStrings.h"
+#include "LMSingleton.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -87,9 +88,17 @@ LMFormatInternationalizationMgr::LMFormatInternationalizationMgr(QObject* parent
 
 LMFormatInternationalizationMgr::~LMFormatInternationalizationMgr() = default;
 
+namespace {
+// Kept across a test's reset: every window and list holds it by pointer, also
+// the ones a test makes itself; the test fixture sets the language instead.
+using ManagerSingleton = Lumeran::LMSingleton<LMFormatInternationalizationMgr>;
+constinit ManagerSingleton s_manager{
+    [] { return std::make_shared<LMFormatInternationalizationMgr>(); }, nullptr,
+    ManagerSingleton::OnReset::Keep};
+} // namespace
+
 LMFormatInternationalizationMgr* LMFormatInternationalizationMgr::sharedObject() {
-    static LMFormatInternationalizationMgr instance;
-    return &instance;
+    return s_manager.Instance().get();
 }
 
 QString LMFormatInternationalizationMgr::userLanguageKey() {

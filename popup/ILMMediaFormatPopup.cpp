@@ -3,24 +3,25 @@
 
 #include "ILMFmtPresetDataSource.h"
 #include "LMMediaFormatPopupQt.h"
+#include "LMSingleton.h"
 
 namespace Lumeran {
 
 namespace {
-// Read by the load's completion directly: the host reaches the facade through
-// Shared() before any load can finish, so the instance exists by then.
-std::shared_ptr<ILMMediaFormatPopup> s_popup;
+constinit LMSingleton<ILMMediaFormatPopup> s_popup{[]() -> std::shared_ptr<ILMMediaFormatPopup> {
+    return std::make_shared<LMMediaFormatPopupQt>();
+}};
 } // namespace
 
 std::shared_ptr<ILMMediaFormatPopup> ILMMediaFormatPopup::Shared() {
-    if (!s_popup)
-        s_popup = std::make_shared<LMMediaFormatPopupQt>();
-    return s_popup;
+    return s_popup.Instance();
 }
 
 void ILMMediaFormatPopup::SetupExternalFormatData(const std::string& path) {
     ILMFmtPresetDataSource::Shared()->AsyncLoadExternalDataSource(path, [] {
-        if (auto popup = std::static_pointer_cast<LMMediaFormatPopupQt>(s_popup))
+        // On the loader's thread: the host made the facade (Shared()) before it
+        // could start a load, so this only looks it up.
+        if (auto popup = std::static_pointer_cast<LMMediaFormatPopupQt>(s_popup.Existing()))
             popup->LoadExternalDataInMainThread();
     });
 }

@@ -59,6 +59,11 @@ constinit LMSingleton<Settled> s_settled{[] { return std::make_shared<Settled>()
                                              Events().push_back("settled");
                                          }};
 
+struct Kept {};
+using KeptSingleton = LMSingleton<Kept>;
+constinit KeptSingleton s_kept{[] { return std::make_shared<Kept>(); }, nullptr,
+                               KeptSingleton::OnReset::Keep};
+
 class LMSingletonTest : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -121,4 +126,17 @@ TEST_F(LMSingletonTest, AResetWithNoInstanceDoesNothing) {
     LMSingletons::ResetForTesting();
     EXPECT_TRUE(Events().empty());
     EXPECT_EQ(g_made, 0);
+}
+
+TEST_F(LMSingletonTest, AnInstanceKeptOnResetOutlivesTheReset) {
+    const Kept* before = s_kept.Instance().get();
+    LMSingletons::ResetForTesting();
+    EXPECT_EQ(s_kept.Instance().get(), before);
+}
+
+TEST_F(LMSingletonTest, ExistingNeverMakesTheInstance) {
+    EXPECT_FALSE(s_first.Existing());
+    EXPECT_EQ(g_made, 0);
+    const auto first = s_first.Instance();
+    EXPECT_EQ(s_first.Existing(), first);
 }
