@@ -473,66 +473,64 @@ void LMFormatCollectionView::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void LMFormatCollectionView::keyPressEvent(QKeyEvent* event) {
+    // Escape is the window's: it closes the popup.
+    const bool handled =
+        event->key() != Qt::Key_Escape && (navigateByKey(event) || chooseByKey(event) ||
+                                           removeByKey(event) || forwardTypedText(event));
+    event->setAccepted(handled);
+}
+
+bool LMFormatCollectionView::navigateByKey(const QKeyEvent* event) {
+    static const std::map<int, CursorAction> actions = {
+        {Qt::Key_Up, MoveUp},         {Qt::Key_Down, MoveDown},
+        {Qt::Key_PageUp, MovePageUp}, {Qt::Key_PageDown, MovePageDown},
+        {Qt::Key_Home, MoveHome},     {Qt::Key_End, MoveEnd}};
+    const auto action = actions.find(event->key());
+    if (action == actions.end())
+        return false;
+    const QModelIndex target = moveCursor(action->second, event->modifiers());
+    if (!target.isValid())
+        return true;
+    if (d->selectsOnNavigation) {
+        d->userSelect(target.row(), false);
+    } else {
+        selectionModel()->setCurrentIndex(target, QItemSelectionModel::NoUpdate);
+        scrollTo(target);
+    }
+    return true;
+}
+
+bool LMFormatCollectionView::chooseByKey(const QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const QModelIndex current = currentIndex();
-    switch (event->key()) {
-    case Qt::Key_Escape:
-        // The window closes on Escape.
-        event->ignore();
-        return;
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-    case Qt::Key_Home:
-    case Qt::Key_End: {
-        static const std::map<int, CursorAction> actions = {
-            {Qt::Key_Up, MoveUp},         {Qt::Key_Down, MoveDown},
-            {Qt::Key_PageUp, MovePageUp}, {Qt::Key_PageDown, MovePageDown},
-            {Qt::Key_Home, MoveHome},     {Qt::Key_End, MoveEnd}};
-        const QModelIndex target = moveCursor(actions.at(event->key()), event->modifiers());
-        if (target.isValid()) {
-            if (d->selectsOnNavigation) {
-                d->userSelect(target.row(), false);
-            } else {
-                selectionModel()->setCurrentIndex(target, QItemSelectionModel::NoUpdate);
-                scrollTo(target);
-            }
-        }
-        event->accept();
-        return;
-    }
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (d->selectsOnNavigation || !current.isValid())
-            break;
-        d->userSelect(current.row(), true);
-        event->accept();
-        return;
-    case Qt::Key_Delete:
-    case Qt::Key_Backspace:
-        if (current.isValid()) {
-            LMFormatDataViewItem* item = d->itemForRow(current.row(), true);
-            if (item && item->removable()) {
-                event->accept();
-                item->removeClicked();
-                return;
-            }
-        }
-        break;
-    default: {
-        const QString text = event->text();
-        const bool command =
-            event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-        if (!command && !text.isEmpty() &&
-            std::all_of(text.begin(), text.end(), [](QChar c) { return c.isPrint(); })) {
-            event->accept();
-            Q_EMIT textTyped(text);
-            return;
-        }
-        break;
-    }
-    }
-    event->ignore();
+    // A list that selects while moving has chosen already.
+    if (!enter || d->selectsOnNavigation || !current.isValid())
+        return false;
+    d->userSelect(current.row(), true);
+    return true;
+}
+
+bool LMFormatCollectionView::removeByKey(const QKeyEvent* event) {
+    const bool remove = event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace;
+    const QModelIndex current = currentIndex();
+    if (!remove || !current.isValid())
+        return false;
+    LMFormatDataViewItem* item = d->itemForRow(current.row(), true);
+    if (!item || !item->removable())
+        return false;
+    item->removeClicked();
+    return true;
+}
+
+bool LMFormatCollectionView::forwardTypedText(const QKeyEvent* event) {
+    const QString text = event->text();
+    const bool command =
+        event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (command || text.isEmpty() ||
+        !std::all_of(text.begin(), text.end(), [](QChar c) { return c.isPrint(); }))
+        return false;
+    Q_EMIT textTyped(text);
+    return true;
 }
 
 void LMFormatCollectionView::keyboardSearch(const QString& search) {

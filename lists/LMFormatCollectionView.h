@@ -99,6 +99,12 @@ protected:
                                                          const QEvent* event) const override;
 
 private:
+    // The keys a list handles itself; each says whether it handled the event.
+    bool navigateByKey(const QKeyEvent* event);
+    bool chooseByKey(const QKeyEvent* event);
+    bool removeByKey(const QKeyEvent* event);
+    // Printable text typed in a list belongs to the window's search field.
+    bool forwardTypedText(const QKeyEvent* event);
     struct Private;
     std::unique_ptr<Private> d;
 };

@@ -46,6 +46,30 @@ LMDemoHostWindow::LMDemoHostWindow(QWidget* parent)
     auto* layout = new QVBoxLayout(central);
     layout->setContentsMargins(24, 20, 24, 20);
     layout->setSpacing(12);
+    layout->addLayout(buildForm());
+    layout->addLayout(buildConvertRow());
+    m_status->setWordWrap(true);
+    m_status->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    layout->addWidget(m_status);
+    layout->addStretch();
+    setCentralWidget(central);
+    resize(760, 420);
+    connectConverter();
+    connect(LMFormatInternationalizationMgr::sharedObject(),
+            &LMFormatInternationalizationMgr::languageDidChange, this,
+            &LMDemoHostWindow::refreshChoice);
+    buildLanguageMenu();
+
+    // Until the user chooses, the host shows what the framework considers current:
+    // the newest recent entry, or the built-in MP4 preset.
+    if (auto current = ILMFmtPresetDataSource::Shared()->GetCurrentPreset())
+        showChoice(current->FormatPreset(), current->FormatNode());
+    m_status->setText(QStringLiteral("Choose a source file and a format, then Convert."));
+}
+
+// Source, format (the button that pops the selector up), its description and
+// the FFmpeg options it stands for.
+QFormLayout* LMDemoHostWindow::buildForm() {
     auto* form = new QFormLayout();
     form->setHorizontalSpacing(14);
     form->setVerticalSpacing(12);
@@ -77,8 +101,10 @@ LMDemoHostWindow::LMDemoHostWindow(QWidget* parent)
     m_arguments->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_arguments->setFixedHeight(64);
     form->addRow(QStringLiteral("FFmpeg:"), m_arguments);
-    layout->addLayout(form);
+    return form;
+}
 
+QHBoxLayout* LMDemoHostWindow::buildConvertRow() {
     auto* convertRow = new QHBoxLayout();
     m_convertButton->setDefault(true);
     m_convertButton->setEnabled(false);
@@ -88,14 +114,10 @@ LMDemoHostWindow::LMDemoHostWindow(QWidget* parent)
     m_progress->setTextVisible(false);
     convertRow->addWidget(m_convertButton);
     convertRow->addWidget(m_progress, 1);
-    layout->addLayout(convertRow);
-    m_status->setWordWrap(true);
-    m_status->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    layout->addWidget(m_status);
-    layout->addStretch();
-    setCentralWidget(central);
-    resize(760, 420);
+    return convertRow;
+}
 
+void LMDemoHostWindow::connectConverter() {
     connect(m_converter, &LMDemoConverter::progress, this, [this](double fraction) {
         if (fraction < 0)
             m_progress->setRange(0, 0); // busy until the source's length is known
@@ -105,16 +127,6 @@ LMDemoHostWindow::LMDemoHostWindow(QWidget* parent)
         }
     });
     connect(m_converter, &LMDemoConverter::finished, this, &LMDemoHostWindow::conversionFinished);
-    connect(LMFormatInternationalizationMgr::sharedObject(),
-            &LMFormatInternationalizationMgr::languageDidChange, this,
-            &LMDemoHostWindow::refreshChoice);
-    buildLanguageMenu();
-
-    // Until the user chooses, the host shows what the framework considers current:
-    // the newest recent entry, or the built-in MP4 preset.
-    if (auto current = ILMFmtPresetDataSource::Shared()->GetCurrentPreset())
-        showChoice(current->FormatPreset(), current->FormatNode());
-    m_status->setText(QStringLiteral("Choose a source file and a format, then Convert."));
 }
 
 LMDemoHostWindow::~LMDemoHostWindow() = default;

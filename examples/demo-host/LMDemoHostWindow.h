@@ -10,6 +10,8 @@
 
 class LMDemoConverter;
 class QActionGroup;
+class QFormLayout;
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
@@ -47,6 +49,9 @@ public:
                     std::shared_ptr<const Lumeran::ILMFormatNode> node);
 
 private:
+    QFormLayout* buildForm();
+    QHBoxLayout* buildConvertRow();
+    void connectConverter();
     void chooseSource();
     void buildLanguageMenu();
     void refreshChoice();

@@ -103,9 +103,24 @@ bool LMDemoTour::run() {
     if (!check(QDir().mkpath(m_outputDir), "cannot make the screenshot folder"))
         return false;
     std::printf("Screenshots:\n");
-    auto popup = ILMMediaFormatPopup::Shared();
-    auto source = ILMFmtPresetDataSource::Shared();
+    seedCustomPresets();
+    // Offscreen, the pointer goes to the first window that holds it, in the order
+    // the windows were made, whatever is on top; making the popup's window first
+    // lets the pointer reach the popup where it covers the host.
+    LMFormatSelectionWndCtrl::shared()->winId();
+    m_host = std::make_unique<LMDemoHostWindow>();
+    m_host->move(60, 40);
+    m_host->show();
+    settle();
 
+    if (!popupSteps() || !choiceSteps() || !editorSteps() || (m_convert && !conversionSteps()))
+        return false;
+    std::printf("%d screenshots written.\n", m_shots);
+    return true;
+}
+
+void LMDemoTour::seedCustomPresets() {
+    auto source = ILMFmtPresetDataSource::Shared();
     // Two presets the user saved in an earlier session.
     auto mp4 = ILMFormatNode::MallocFormatNode("MP4", "MP4 file format", 100);
     auto phone = ILMFormatPreset::MallocFormatPreset("MP4", "MP4-custom0");
@@ -117,16 +132,11 @@ bool LMDemoTour::run() {
     archive->SetFaceID(100);
     source->AddCustomPreset(archive, mp4);
     source->SaveCustomList();
+}
 
-    // Offscreen, the pointer goes to the first window that holds it, in the order
-    // the windows were made, whatever is on top; making the popup's window first
-    // lets the pointer reach the popup where it covers the host.
-    LMFormatSelectionWndCtrl::shared()->winId();
-    m_host = std::make_unique<LMDemoHostWindow>();
-    m_host->move(60, 40);
-    m_host->show();
-    settle();
-
+// The popup while the catalogue loads, once it has, and during a search.
+bool LMDemoTour::popupSteps() {
+    auto popup = ILMMediaFormatPopup::Shared();
     // 1. The popup before the catalogue has arrived: the spinner.
     QTest::mouseClick(m_host->formatButton(), Qt::LeftButton);
     auto* ctrl = LMFormatSelectionWndCtrl::shared();
@@ -155,7 +165,13 @@ bool LMDemoTour::run() {
     QTest::keyClick(Popup()->searchField(), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(Popup()->searchField(), Qt::Key_Backspace);
     settle();
+    return true;
+}
 
+// Choices, Recent, Custom, French, and a dismissal.
+bool LMDemoTour::choiceSteps() {
+    auto* ctrl = LMFormatSelectionWndCtrl::shared();
+    QAbstractItemView* video = categoryPresetList(0);
     // 4. Two choices, then Recent lists them, newest first.
     clickRow(video, 1);
     if (!check(!ctrl->isVisible() && m_host->currentPreset(), "choosing did not close the popup"))
@@ -191,10 +207,6 @@ bool LMDemoTour::run() {
     if (!check(!ctrl->isVisible(), "Escape did not dismiss the popup") ||
         !shoot(QStringLiteral("07-host-with-choice")))
         return false;
-
-    if (!editorSteps() || (m_convert && !conversionSteps()))
-        return false;
-    std::printf("%d screenshots written.\n", m_shots);
     return true;
 }
 

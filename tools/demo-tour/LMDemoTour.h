@@ -35,6 +35,9 @@ private:
     void hoverRow(QAbstractItemView* view, int row);
     QAbstractItemView* categoryPresetList(int category) const;
     QAbstractItemView* customPresetList() const;
+    void seedCustomPresets();
+    bool popupSteps();
+    bool choiceSteps();
     bool editorSteps();
     bool shootEditor(std::shared_ptr<Lumeran::ILMFormatPreset> preset,
                      std::shared_ptr<const Lumeran::ILMFormatNode> node, const QString& name);
