@@ -204,10 +204,8 @@ bool LMDemoTour::choiceSteps() {
     // 7. Escape dismisses the popup; the host keeps its last choice.
     QTest::keyClick(Popup()->searchField(), Qt::Key_Escape);
     settle();
-    if (!check(!ctrl->isVisible(), "Escape did not dismiss the popup") ||
-        !shoot(QStringLiteral("07-host-with-choice")))
-        return false;
-    return true;
+    return check(!ctrl->isVisible(), "Escape did not dismiss the popup") &&
+           shoot(QStringLiteral("07-host-with-choice"));
 }
 
 bool LMDemoTour::shootEditor(std::shared_ptr<ILMFormatPreset> preset,
