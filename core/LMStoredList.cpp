@@ -13,6 +13,8 @@
 #include <QDir>
 #include <QStandardPaths>
 
+#include <utility>
+
 namespace Lumeran {
 
 namespace {
@@ -241,12 +243,12 @@ LMStoredList::WriteOver(const std::optional<std::string>& current, const QJsonOb
             return std::nullopt;
         result.json = JsonOf(result.mergedTree);
     }
-    const std::optional<std::string> value = Encode(result.json);
+    std::optional<std::string> value = Encode(result.json);
     if (!value) {
         m_lastError = "the " + m_key + " is too large to be read back";
         return std::nullopt;
     }
-    result.value = *value;
+    result.value = std::move(*value);
     if (current && *current != result.value && !m_backups.KeepReplaced(*current))
         ILMLogConfig::Printf("No backup of the replaced %s could be written to %s", m_key.c_str(),
                              m_backups.Folder().c_str());
