@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ILMFileProvider.h"
 
+#include "ILMJsonValue.h"
+
 #include <QFile>
 
 #include <cerrno>
@@ -86,7 +88,8 @@ bool ILMFileProvider::ReadRegularFile(const std::string& path, std::int64_t maxB
     if (info.st_size > maxBytes)
         return Fail(error, "file too large: " + path + " (" + std::to_string(info.st_size) +
                                " bytes, at most " + std::to_string(maxBytes) + ")");
-    contents->reserve(static_cast<std::size_t>(info.st_size));
+    // A little room past the end lets a JSON reader keep the text as it is.
+    contents->reserve(static_cast<std::size_t>(info.st_size) + ILMJsonValue::TextPadding);
     char buffer[64 * 1024];
     for (;;) {
         const ssize_t got = ::read(fd.Get(), buffer, sizeof buffer);

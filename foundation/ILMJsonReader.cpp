@@ -2,37 +2,34 @@
 #include "ILMJsonReader.h"
 
 #include "ILMFileProvider.h"
+#include "LMJsonTextCheck.h"
 
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 
+#include <algorithm>
 #include <vector>
 
 namespace Lumeran {
 
 namespace {
 
-std::shared_ptr<const ILMJsonValue> Parse(const QByteArray& text,
+constexpr std::string_view kBom = "\xEF\xBB\xBF";
+
+// A value over text, or nothing (and the error) when the text is not one JSON
+// object or array. A byte order mark before the text is dropped, as Qt's parser
+// drops it.
+std::shared_ptr<const ILMJsonValue> Parse(std::string text,
                                           std::shared_ptr<const ILMError>* error) {
-    QJsonParseError parseError;
-    const QJsonDocument document = QJsonDocument::fromJson(text, &parseError);
-    if (parseError.error != QJsonParseError::NoError) {
+    if (std::string_view(text).substr(0, kBom.size()) == kBom)
+        text.erase(0, kBom.size());
+    auto value = ILMJsonValue::MallocJsonText(std::move(text), false);
+    LMJsonTextCheck::Failure failure;
+    if (!LMJsonTextCheck::Check(value->Text(), &failure)) {
         ILMError::Report(error, ILMError::ParseError,
-                         parseError.errorString().toStdString() + " at offset " +
-                             std::to_string(parseError.offset));
+                         failure.why + " at offset " + std::to_string(failure.offset));
         return {};
     }
-    if (document.isObject())
-        return ILMJsonValue::MallocJsonValue(document.object());
-    if (document.isArray())
-        return ILMJsonValue::MallocJsonValue(document.array());
-    ILMError::Report(error, ILMError::ParseError, "empty JSON document");
-    return {};
-}
-
-QByteArray View(const std::string& text) {
-    return QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size()));
+    return value;
 }
 
 // A place where the text may be cut and closed: right after an element of a list
@@ -83,6 +80,17 @@ std::vector<CutPoint> CutPoints(const std::string& text, std::size_t limit) {
     return points;
 }
 
+// Where Qt's parser finds text damaged: the salvage below cuts before that point,
+// as it always has.
+std::size_t DamageOffset(const std::string& text) {
+    QJsonParseError parseError;
+    QJsonDocument::fromJson(
+        QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size())), &parseError);
+    if (parseError.error == QJsonParseError::NoError)
+        return text.size();
+    return static_cast<std::size_t>(std::max(0, parseError.offset));
+}
+
 } // namespace
 
 std::shared_ptr<const ILMJsonValue>
@@ -95,7 +103,7 @@ ILMJsonReader::ReadJsonFile(const std::string& path, std::shared_ptr<const ILMEr
             why);
         return {};
     }
-    return Parse(View(text), error);
+    return Parse(std::move(text), error);
 }
 
 std::shared_ptr<const ILMJsonValue>
@@ -104,7 +112,7 @@ ILMJsonReader::ReadJsonString(const std::string& text, std::shared_ptr<const ILM
         ILMError::Report(error, ILMError::LimitError, "text too large");
         return {};
     }
-    return Parse(View(text), error);
+    return Parse(text, error);
 }
 
 std::shared_ptr<const ILMJsonValue> ILMJsonReader::ReadJsonStringSalvaging(const std::string& text,
@@ -113,27 +121,19 @@ std::shared_ptr<const ILMJsonValue> ILMJsonReader::ReadJsonStringSalvaging(const
         *complete = false;
     if (static_cast<std::int64_t>(text.size()) > MaxFileSize)
         return {};
-    QJsonParseError parseError;
-    const QJsonDocument document = QJsonDocument::fromJson(View(text), &parseError);
-    if (parseError.error == QJsonParseError::NoError) {
+    if (auto value = Parse(text, nullptr)) {
         if (complete)
             *complete = true;
-        if (document.isObject())
-            return ILMJsonValue::MallocJsonValue(document.object());
-        if (document.isArray())
-            return ILMJsonValue::MallocJsonValue(document.array());
-        return {};
+        return value;
     }
     // Tries cut points from the damage backwards; each try parses the prefix, so
     // the number of tries is bounded and spread over the whole text.
-    const auto points = CutPoints(text, static_cast<std::size_t>(std::max(0, parseError.offset)));
+    const auto points = CutPoints(text, DamageOffset(text));
     constexpr std::size_t kMaxTries = 48;
     std::size_t step = 1;
     for (std::size_t tried = 0, i = points.size(); i > 0 && tried < kMaxTries; ++tried) {
         const CutPoint& point = points[i - 1];
-        const QByteArray candidate = View(text).left(static_cast<qsizetype>(point.end)) +
-                                     QByteArray::fromStdString(point.closers);
-        if (auto value = Parse(candidate, nullptr))
+        if (auto value = Parse(text.substr(0, point.end) + point.closers, nullptr))
             return value;
         i = i > step ? i - step : 0;
         if (tried >= 8)

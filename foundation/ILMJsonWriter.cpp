@@ -10,6 +10,8 @@ namespace Lumeran {
 std::string ILMJsonWriter::WriteJsonString(std::shared_ptr<const ILMJsonValue> value) {
     if (!value)
         return {};
+    if (value->TextIsWritten())
+        return std::string(value->Text());
     const QJsonValue& json = value->Value();
     QJsonDocument document;
     if (json.isObject())

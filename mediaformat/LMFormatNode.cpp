@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "LMFormatNode.h"
 
-#include "LMFormatJson.h"
+#include "LMFormatJsonReader.h"
+#include "LMFormatJsonWriter.h"
 #include "LMFormatReadOptions.h"
+
+#include <QJsonDocument>
 
 #include <algorithm>
 
@@ -37,7 +40,7 @@ std::shared_ptr<ILMFormatNode>
 ILMFormatNode::MallocFormatNode(const std::shared_ptr<const ILMJsonValue>& json) {
     if (!json)
         return {};
-    return LMFormatJson::ReadNode(json->Value());
+    return LMFormatJsonReader::ReadNode(*json, LMFormatReadOptions());
 }
 
 std::shared_ptr<ILMFormatNode>
@@ -45,7 +48,7 @@ ILMFormatNode::MallocFormatNode(const std::shared_ptr<const ILMJsonValue>& json,
                                 const LMFormatReadOptions& options) {
     if (!json)
         return {};
-    return LMFormatJson::ReadNode(json->Value(), options);
+    return LMFormatJsonReader::ReadNode(*json, options);
 }
 
 int ILMFormatNode::UnreadableEntryCount(const std::shared_ptr<const ILMFormatNode>& node) {
@@ -116,7 +119,7 @@ std::shared_ptr<ILMFormatNode> LMFormatNode::Clone(int options) const {
 }
 
 std::shared_ptr<ILMJsonValue> LMFormatNode::ToJson() const {
-    return ILMJsonValue::MallocJsonValue(LMFormatJson::WriteNode(*this));
+    return ILMJsonValue::MallocJsonText(LMFormatJsonWriter::NodeText(*this), true);
 }
 
 std::shared_ptr<const ILMFormatPreset> LMFormatNode::FormatPresetAt(int index) const {
@@ -128,8 +131,10 @@ std::shared_ptr<ILMFormatPreset> LMFormatNode::FormatPresetAt(int index) {
 }
 
 void LMFormatNode::AddFormatPreset(std::shared_ptr<ILMFormatPreset> preset) {
-    if (preset)
-        m_presets.push_back(std::move(preset));
+    if (!preset)
+        return;
+    m_presets.push_back(std::move(preset));
+    m_revision.Touch();
 }
 
 bool LMFormatNode::RemoveFormatPreset(const std::string& presetTitle) {
@@ -139,6 +144,7 @@ bool LMFormatNode::RemoveFormatPreset(const std::string& presetTitle) {
     if (found == m_presets.end())
         return false;
     m_presets.erase(found);
+    m_revision.Touch();
     return true;
 }
 
@@ -161,20 +167,26 @@ std::shared_ptr<ILMFormatNode> LMFormatNode::ChildAt(int index) {
 }
 
 void LMFormatNode::AddChild(std::shared_ptr<ILMFormatNode> child) {
-    if (child)
-        m_children.push_back(std::move(child));
+    if (!child)
+        return;
+    m_children.push_back(std::move(child));
+    m_revision.Touch();
 }
 
 void LMFormatNode::RemoveChildAt(int index) {
-    if (InRange(index, m_children.size()))
-        m_children.erase(m_children.begin() + index);
+    if (!InRange(index, m_children.size()))
+        return;
+    m_children.erase(m_children.begin() + index);
+    m_revision.Touch();
 }
 
 void LMFormatNode::RemoveChild(std::shared_ptr<const ILMFormatNode> child) {
     const auto found = std::find_if(m_children.begin(), m_children.end(),
                                     [&](const auto& mine) { return mine.get() == child.get(); });
-    if (found != m_children.end())
-        m_children.erase(found);
+    if (found == m_children.end())
+        return;
+    m_children.erase(found);
+    m_revision.Touch();
 }
 
 void LMFormatNode::RemoveChild(const std::string& title) {
@@ -224,9 +236,20 @@ bool LMFormatNode::CarryChildAt(int index) {
     if (!child)
         return false;
     // Entries after it keep their places: it goes where it stood.
-    m_carriedChildren.push_back({static_cast<std::size_t>(index), LMFormatJson::WriteNode(*child)});
+    const std::string text = LMFormatJsonWriter::NodeText(*child);
+    m_carriedChildren.push_back(
+        {static_cast<std::size_t>(index),
+         QJsonDocument::fromJson(QByteArray::fromRawData(text.data(), qsizetype(text.size())))
+             .object()});
     m_children.erase(m_children.begin() + index);
+    m_revision.Touch();
     return true;
+}
+
+LMFormatNode::TextCache& LMFormatNode::JsonTextCache() const {
+    if (!m_textCache)
+        m_textCache = std::make_unique<TextCache>();
+    return *m_textCache;
 }
 
 void LMFormatNode::Reserve(std::size_t presets, std::size_t children) {

@@ -3,10 +3,12 @@
 
 #include "ILMFormatNode.h"
 #include "LMFormatLimits.h"
+#include "LMFormatRevision.h"
 
 #include <QJsonObject>
 #include <QJsonValue>
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -17,12 +19,19 @@ class LMFormatNode final : public ILMFormatNode {
 public:
     void SetParent(std::shared_ptr<ILMFormatNode> parent) override { m_parent = parent; }
     int FaceID() const override { return m_faceID; }
-    void SetFaceID(int faceID) override { m_faceID = LMFormatLimits::FaceID(faceID); }
+    void SetFaceID(int faceID) override {
+        m_faceID = LMFormatLimits::FaceID(faceID);
+        m_revision.Touch();
+    }
     std::string Title() const override { return m_title; }
     std::string Description() const override { return m_description; }
-    void SetTitle(const std::string& title) override { m_title = LMFormatLimits::Text(title); }
+    void SetTitle(const std::string& title) override {
+        m_title = LMFormatLimits::Text(title);
+        m_revision.Touch();
+    }
     void SetDescription(const std::string& description) override {
         m_description = LMFormatLimits::Text(description);
+        m_revision.Touch();
     }
     std::shared_ptr<ILMFormatNode> Clone(int options) const override;
     std::shared_ptr<ILMJsonValue> ToJson() const override;
@@ -55,9 +64,11 @@ public:
     };
     void CarryPreset(QJsonValue json) {
         m_carriedPresets.push_back({m_presets.size(), std::move(json)});
+        m_revision.Touch();
     }
     void CarryChild(QJsonValue json) {
         m_carriedChildren.push_back({m_children.size(), std::move(json)});
+        m_revision.Touch();
     }
     const std::vector<Carried>& CarriedPresets() const { return m_carriedPresets; }
     const std::vector<Carried>& CarriedChildren() const { return m_carriedChildren; }
@@ -65,7 +76,24 @@ public:
     bool CarryChildAt(int index);
     // Fields of the node's JSON this version does not know, written back as read.
     const QJsonObject& ExtraFields() const { return m_extra; }
-    void SetExtraFields(QJsonObject extra) { m_extra = std::move(extra); }
+    void SetExtraFields(QJsonObject extra) {
+        m_extra = std::move(extra);
+        m_revision.Touch();
+    }
+
+    // Changes whenever the node's own part of its JSON (not its presets' or
+    // children's) may have changed.
+    std::uint64_t Revision() const { return m_revision.Value(); }
+    // The JSON text last written for this node and what it was written from: the
+    // node's revision and the revision or stamp of each preset and child. Kept by
+    // LMFormatJsonWriter, which reuses the text while all of them still hold.
+    struct TextCache {
+        std::uint64_t revision = 0;
+        std::uint64_t stamp = 0;
+        std::vector<std::uint64_t> pieces;
+        std::string text;
+    };
+    TextCache& JsonTextCache() const;
 
 private:
     std::weak_ptr<ILMFormatNode> m_parent;
@@ -77,6 +105,8 @@ private:
     std::vector<Carried> m_carriedPresets;
     std::vector<Carried> m_carriedChildren;
     QJsonObject m_extra;
+    LMFormatRevision m_revision;
+    mutable std::unique_ptr<TextCache> m_textCache;
 };
 
 } // namespace Lumeran

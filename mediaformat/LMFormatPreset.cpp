@@ -41,6 +41,7 @@ void LMFormatPreset::CopyFrom(std::shared_ptr<const ILMFormatPreset> other) {
         m_choices = source->m_choices;
         m_extra = source->m_extra;
         m_streamExtra = source->m_streamExtra;
+        m_revision.Touch();
         return;
     }
     // Another implementation of the interface: take over what it exposes.
@@ -74,10 +75,12 @@ std::shared_ptr<ILMCodecPreset> LMFormatPreset::VideoCodecAt(int index) const {
 
 void LMFormatPreset::SetCurrentAudioCodec(int index) {
     m_currentAudio = static_cast<std::int16_t>(Codec(true, index) ? index : -1);
+    m_revision.Touch();
 }
 
 void LMFormatPreset::SetCurrentVideoCodec(int index) {
     m_currentVideo = static_cast<std::int16_t>(Codec(false, index) ? index : -1);
+    m_revision.Touch();
 }
 
 const LMFormatPreset::Choice* LMFormatPreset::FindChoice(bool audio, int codec) const {
@@ -113,6 +116,7 @@ void LMFormatPreset::SetOption(bool audio, int codec, LMOptionList list, int ind
         choice = &m_choices.back();
     }
     choice->options[static_cast<std::size_t>(list)] = static_cast<std::int8_t>(index);
+    m_revision.Touch();
 }
 
 bool LMFormatPreset::IsEqualTo(std::shared_ptr<const ILMFormatPreset> other) const {

@@ -4,6 +4,7 @@
 #include "ILMFormatPreset.h"
 #include "LMFormatLimits.h"
 #include "LMFormatRegistry.h"
+#include "LMFormatRevision.h"
 
 #include <QJsonObject>
 
@@ -25,9 +26,15 @@ public:
     explicit LMFormatPreset(const LMContainerInfo* container);
 
     int FaceID() const override { return m_faceID; }
-    void SetFaceID(int faceID) override { m_faceID = LMFormatLimits::FaceID(faceID); }
+    void SetFaceID(int faceID) override {
+        m_faceID = LMFormatLimits::FaceID(faceID);
+        m_revision.Touch();
+    }
     std::string Title() const override { return m_title; }
-    void SetTitle(const std::string& title) override { m_title = LMFormatLimits::Text(title); }
+    void SetTitle(const std::string& title) override {
+        m_title = LMFormatLimits::Text(title);
+        m_revision.Touch();
+    }
     std::string Description() const override { return m_description; }
     std::shared_ptr<ILMFormatPreset> Clone() const override;
     void CopyFrom(std::shared_ptr<const ILMFormatPreset> other) override;
@@ -42,6 +49,7 @@ public:
     bool IsEqualTo(std::shared_ptr<const ILMFormatPreset> other) const override;
     void SetDescription(const std::string& description) override {
         m_description = LMFormatLimits::Text(description);
+        m_revision.Touch();
     }
     std::string FormatName() const override { return m_container->name; }
     std::string FormatId() const override { return m_container->id; }
@@ -54,12 +62,18 @@ public:
     void SetOption(bool audio, int codec, LMOptionList list, int index);
     // Fields of the preset's JSON this version does not know, written back as read.
     const QJsonObject& ExtraFields() const { return m_extra; }
-    void SetExtraFields(QJsonObject extra) { m_extra = std::move(extra); }
+    void SetExtraFields(QJsonObject extra) {
+        m_extra = std::move(extra);
+        m_revision.Touch();
+    }
     // The same for the object of the current video or audio stream.
     const QJsonObject& StreamExtraFields(bool audio) const { return m_streamExtra[audio ? 1 : 0]; }
     void SetStreamExtraFields(bool audio, QJsonObject extra) {
         m_streamExtra[audio ? 1 : 0] = std::move(extra);
+        m_revision.Touch();
     }
+    // Changes whenever what the preset writes as JSON may have changed.
+    std::uint64_t Revision() const { return m_revision.Value(); }
 
 private:
     struct Choice {
@@ -79,6 +93,7 @@ private:
     std::vector<Choice> m_choices;
     QJsonObject m_extra;
     std::array<QJsonObject, 2> m_streamExtra;
+    LMFormatRevision m_revision;
 };
 
 } // namespace Lumeran

@@ -32,6 +32,15 @@ int FindIn(const List& list, QStringView id) {
     return -1;
 }
 
+template <typename List>
+int FindIn(const List& list, std::string_view id) {
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        if (id == list[i]->IdRef())
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
 // Reading failures inside the loader are thrown and caught at its edge, so the
 // table's checks read as a list; nothing escapes FromJson.
 struct RegistryError : std::runtime_error {
@@ -260,6 +269,22 @@ int LMCodecInfo::Find(LMOptionList list, QStringView id) const {
     return -1;
 }
 
+int LMCodecInfo::Find(LMOptionList list, std::string_view id) const {
+    switch (list) {
+    case LMOptionList::Resolution:
+        return FindIn(resolutions, id);
+    case LMOptionList::Framerate:
+        return FindIn(framerates, id);
+    case LMOptionList::Quality:
+        return FindIn(qualities, id);
+    case LMOptionList::Samplerate:
+        return FindIn(samplerates, id);
+    case LMOptionList::ChannelLayout:
+        return FindIn(channelLayouts, id);
+    }
+    return -1;
+}
+
 const std::string& LMCodecInfo::IdAt(LMOptionList list, int index) const {
     const auto i = static_cast<std::size_t>(index);
     switch (list) {
@@ -286,6 +311,15 @@ int LMContainerInfo::FindCodec(bool audioStream, QStringView id) const {
     return -1;
 }
 
+int LMContainerInfo::FindCodec(bool audioStream, std::string_view id) const {
+    const auto& codecs = Codecs(audioStream);
+    for (std::size_t i = 0; i < codecs.size(); ++i) {
+        if (id == codecs[i]->id)
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
 const LMContainerInfo* LMFormatRegistry::FindContainer(QStringView idOrName) const {
     for (const auto& container : m_containers) {
         if (idOrName == View(container->id))
@@ -293,6 +327,18 @@ const LMContainerInfo* LMFormatRegistry::FindContainer(QStringView idOrName) con
     }
     for (const auto& container : m_containers) {
         if (idOrName == QString::fromStdString(container->name))
+            return container.get();
+    }
+    return nullptr;
+}
+
+const LMContainerInfo* LMFormatRegistry::FindContainer(std::string_view idOrName) const {
+    for (const auto& container : m_containers) {
+        if (idOrName == container->id)
+            return container.get();
+    }
+    for (const auto& container : m_containers) {
+        if (idOrName == container->name)
             return container.get();
     }
     return nullptr;

@@ -10,6 +10,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Lumeran {
@@ -37,6 +38,7 @@ struct LMCodecInfo {
     int Count(LMOptionList list) const;
     // Index of the entry with that id in the list, or -1.
     int Find(LMOptionList list, QStringView id) const;
+    int Find(LMOptionList list, std::string_view id) const;
     const std::string& IdAt(LMOptionList list, int index) const;
 };
 
@@ -55,6 +57,7 @@ struct LMContainerInfo {
     }
     // Index of the codec with that id in the stream's list, or -1.
     int FindCodec(bool audioStream, QStringView id) const;
+    int FindCodec(bool audioStream, std::string_view id) const;
 };
 
 // The embedded table of containers and codecs every preset refers to. It is
@@ -66,6 +69,8 @@ public:
 
     // By registry id ("mp4") or display name ("MP4"); null when unknown.
     const LMContainerInfo* FindContainer(QStringView idOrName) const;
+    // The same for UTF-8 text, as the JSON reader has it.
+    const LMContainerInfo* FindContainer(std::string_view idOrName) const;
     const std::vector<std::unique_ptr<LMContainerInfo>>& Containers() const { return m_containers; }
     bool IsValid() const { return !m_containers.empty(); }
 

@@ -9,7 +9,7 @@ set -euo pipefail
 packages=(
   build-essential cmake ninja-build pkg-config clang-format clang-tidy ccache
   qt6-base-dev qt6-base-dev-tools qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools
-  qt6-l10n-tools linguist-qt6 libgl-dev
+  qt6-l10n-tools linguist-qt6 libgl-dev libsimdjson-dev
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   ffmpeg
   fonts-dejavu-core fonts-noto-core fonts-noto-cjk
