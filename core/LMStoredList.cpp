@@ -11,6 +11,8 @@
 #include "LMStoredListMerge.h"
 
 #include <QDir>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QStandardPaths>
 
 #include <utility>
@@ -42,11 +44,15 @@ int MajorVersion(const std::string& stamp) {
     }
 }
 
-QJsonObject JsonOf(const std::shared_ptr<const ILMFormatNode>& tree) {
-    if (!tree)
-        return {};
-    const auto json = tree->ToJson();
-    return json ? json->Value().toObject() : QJsonObject();
+std::string TextOf(const std::shared_ptr<const ILMFormatNode>& tree) {
+    return tree ? ILMJsonWriter::WriteJsonString(tree->ToJson()) : std::string();
+}
+
+// The merge works on Qt's objects; it runs only when two processes saved at once.
+QJsonObject ObjectOf(const std::string& text) {
+    return QJsonDocument::fromJson(
+               QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size())))
+        .object();
 }
 
 } // namespace
@@ -97,8 +103,8 @@ LMStoredList::Reading LMStoredList::Read(const std::string& value, bool salvageB
         // replaced on the way in) is worth keeping as it was.
         // Entries carried unread count as read here: they are written back as
         // they are.
-        const bool exact = decodedWhole && jsonWhole &&
-                           ILMJsonWriter::WriteJsonString(best.tree->ToJson()) == text;
+        best.text = TextOf(best.tree);
+        const bool exact = decodedWhole && jsonWhole && best.text == text;
         best.complete = exact && report.Complete();
         best.notUnderstood = report.carried + report.repaired;
         best.notUnderstoodParts = exact ? report.notUnderstood : std::string();
@@ -140,7 +146,7 @@ std::shared_ptr<ILMFormatNode> LMStoredList::Load() {
             Preserve(shadowed, "appears more than once in the settings");
     }
     m_base = value.empty() ? std::nullopt : std::optional<std::string>(value);
-    m_baseJson = {};
+    m_baseText.clear();
     if (value.empty())
         return {};
     Reading reading = Read(value);
@@ -156,12 +162,11 @@ std::shared_ptr<ILMFormatNode> LMStoredList::Load() {
                      : std::string("could not be read"),
                  quiet, reading.notUnderstoodParts);
     }
-    m_baseJson = JsonOf(reading.tree);
+    m_baseText = std::move(reading.text);
     return reading.tree;
 }
 
-std::optional<std::string> LMStoredList::Encode(const QJsonObject& json) {
-    const std::string text = ILMJsonWriter::WriteJsonString(ILMJsonValue::MallocJsonValue(json));
+std::optional<std::string> LMStoredList::Encode(const std::string& text) {
     // What the reader would refuse is never written.
     if (text.empty() || static_cast<std::int64_t>(text.size()) > ILMJsonReader::MaxFileSize)
         return std::nullopt;
@@ -182,7 +187,7 @@ bool LMStoredList::Save(const std::shared_ptr<const ILMFormatNode>& tree,
         return Refuse();
     }
 
-    const QJsonObject ours = JsonOf(tree);
+    std::string ours = TextOf(tree);
     Written written;
     const auto update =
         [&](const ILMAppSettings::Values& stored) -> std::optional<ILMAppSettings::Values> {
@@ -192,7 +197,7 @@ bool LMStoredList::Save(const std::shared_ptr<const ILMFormatNode>& tree,
         const std::optional<std::string> current = found == stored.end() || found->second.empty()
                                                        ? std::nullopt
                                                        : std::optional(found->second);
-        std::optional<Written> result = WriteOver(current, ours);
+        std::optional<Written> result = WriteOver(current, std::move(ours));
         if (!result)
             return std::nullopt;
         written = std::move(*result);
@@ -204,8 +209,8 @@ bool LMStoredList::Save(const std::shared_ptr<const ILMFormatNode>& tree,
         m_lastError = "the settings could not be written";
     if (!ok || !m_lastError.empty())
         return Refuse();
-    m_base = written.value;
-    m_baseJson = written.json;
+    m_base = std::move(written.value);
+    m_baseText = std::move(written.text);
     if (merged)
         *merged = std::move(written.mergedTree);
     return true;
@@ -233,17 +238,17 @@ bool LMStoredList::MayOverwrite(const ILMAppSettings::Values& stored) {
 }
 
 std::optional<LMStoredList::Written>
-LMStoredList::WriteOver(const std::optional<std::string>& current, const QJsonObject& ours) {
+LMStoredList::WriteOver(const std::optional<std::string>& current, std::string ours) {
     Written result;
-    result.json = ours;
     if (current != m_base && current) {
         // Another process saved since we read: merge with what it stored.
         result.mergedTree = MergeWith(*current, ours);
         if (!result.mergedTree)
             return std::nullopt;
-        result.json = JsonOf(result.mergedTree);
+        ours = TextOf(result.mergedTree);
     }
-    std::optional<std::string> value = Encode(result.json);
+    result.text = std::move(ours);
+    std::optional<std::string> value = Encode(result.text);
     if (!value) {
         m_lastError = "the " + m_key + " is too large to be read back";
         return std::nullopt;
@@ -256,17 +261,19 @@ LMStoredList::WriteOver(const std::optional<std::string>& current, const QJsonOb
 }
 
 std::shared_ptr<ILMFormatNode> LMStoredList::MergeWith(const std::string& current,
-                                                       const QJsonObject& ours) {
+                                                       const std::string& oursText) {
     const Reading theirs = Read(current);
     if (!theirs.complete &&
         !Preserve(current, "could not be read in full", false, theirs.notUnderstoodParts)) {
         m_lastError = "no copy could be kept of the stored " + m_key;
         return {};
     }
-    const QJsonObject theirJson = JsonOf(theirs.tree);
+    const QJsonObject theirJson = ObjectOf(theirs.text);
+    const QJsonObject ours = ObjectOf(oursText);
+    const QJsonObject base = ObjectOf(m_baseText);
     const QJsonObject merged = m_kind == Kind::Recent
-                                   ? LMStoredListMerge::MergeRecent(m_baseJson, theirJson, ours)
-                                   : LMStoredListMerge::MergeCustom(m_baseJson, theirJson, ours);
+                                   ? LMStoredListMerge::MergeRecent(base, theirJson, ours)
+                                   : LMStoredListMerge::MergeCustom(base, theirJson, ours);
     LMFormatReadOptions options;
     options.keepUnreadable = true;
     auto tree = ILMFormatNode::MallocFormatNode(ILMJsonValue::MallocJsonValue(merged), options);

@@ -6,8 +6,6 @@
 #include "LMPresetBackup.h"
 #include "LMPresetBackupFolder.h"
 
-#include <QJsonObject>
-
 #include <memory>
 #include <optional>
 #include <string>
@@ -62,6 +60,8 @@ public:
         // What was not understood, when the value itself was read whole: a value
         // with the same parts not understood needs no second copy.
         std::string notUnderstoodParts;
+        // The JSON text of tree, as this version writes it.
+        std::string text;
     };
     Reading Read(const std::string& value, bool salvageBase64 = false) const;
     static int EntryCount(const std::shared_ptr<const ILMFormatNode>& tree);
@@ -69,13 +69,13 @@ public:
 private:
     bool Preserve(const std::string& value, const std::string& why, bool quiet = false,
                   const std::string& identity = {});
-    std::optional<std::string> Encode(const QJsonObject& json);
+    std::optional<std::string> Encode(const std::string& text);
 
-    // What one save writes: the Base64 value, its JSON, and the merged tree when
-    // another process's value was merged in.
+    // What one save writes: the Base64 value, its JSON text, and the merged tree
+    // when another process's value was merged in.
     struct Written {
         std::string value;
-        QJsonObject json;
+        std::string text;
         std::shared_ptr<ILMFormatNode> mergedTree;
     };
     // Logs why LastError() stopped a save; false.
@@ -87,9 +87,8 @@ private:
     bool MayOverwrite(const ILMAppSettings::Values& stored);
     // What to write over current, the value stored now (merged when another
     // process wrote it since this one read); empty with the reason on failure.
-    std::optional<Written> WriteOver(const std::optional<std::string>& current,
-                                     const QJsonObject& ours);
-    std::shared_ptr<ILMFormatNode> MergeWith(const std::string& current, const QJsonObject& ours);
+    std::optional<Written> WriteOver(const std::optional<std::string>& current, std::string ours);
+    std::shared_ptr<ILMFormatNode> MergeWith(const std::string& current, const std::string& ours);
 
     std::string m_key;
     Kind m_kind;
@@ -98,7 +97,8 @@ private:
     // The value as this process last read or wrote it; absent when nothing was
     // stored. A save that finds something else stored merges against it.
     std::optional<std::string> m_base;
-    QJsonObject m_baseJson;
+    // The JSON text of that value's tree, as this version writes it.
+    std::string m_baseText;
     // A value that could not be read in full and could not be put aside yet:
     // nothing overwrites it until it is.
     std::optional<std::string> m_unpreserved;
