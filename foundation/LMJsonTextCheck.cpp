@@ -2,8 +2,7 @@
 #include "LMJsonTextCheck.h"
 
 #include "ILMJsonValue.h"
-
-#include <simdjson.h>
+#include "LMOnDemandText.h"
 
 namespace Lumeran {
 
@@ -38,9 +37,12 @@ error_code VisitObject(od::value value, std::size_t depth) {
     od::object object;
     if (const error_code error = value.get_object().get(object))
         return error;
-    for (auto field : object) {
+    for (auto result : object) {
+        od::field field;
+        if (const error_code error = std::move(result).get(field))
+            return error;
         std::string_view key;
-        if (const error_code error = field.unescaped_key().get(key))
+        if (const error_code error = LMOnDemandText::Key(field).get(key))
             return error;
         if (const error_code error = Visit(field.value(), depth + 1))
             return error;
@@ -60,8 +62,10 @@ error_code Visit(od::value value, std::size_t depth) {
     case od::json_type::object:
         return VisitObject(value, depth);
     case od::json_type::string: {
+        // A string without escapes was checked whole when the text was indexed
+        // (UTF-8, no raw control characters); one with escapes is unescaped.
         std::string_view text;
-        return value.get_string().get(text);
+        return LMOnDemandText::String(value).get(text);
     }
     case od::json_type::number: {
         double number = 0;

@@ -9,14 +9,14 @@
 #include "LMFormatPreset.h"
 #include "LMFormatReadOptions.h"
 #include "LMFormatReadReport.h"
+#include "LMOnDemandText.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include <simdjson.h>
-
 #include <algorithm>
 #include <stdexcept>
+#include <unordered_map>
 #include <vector>
 
 namespace Lumeran {
@@ -79,6 +79,14 @@ std::size_t Utf16Length(std::string_view text) {
     return length;
 }
 
+std::string_view Key(od::field& field) {
+    return LMOnDemandText::Key(field);
+}
+
+std::string_view String(od::value& value) {
+    return LMOnDemandText::String(value);
+}
+
 std::string Quoted(std::string_view text) {
     return "\"" + std::string(text) + "\"";
 }
@@ -98,8 +106,8 @@ public:
         auto node = std::make_shared<LMFormatNode>();
         QJsonObject extra;
         bool titled = false;
-        for (auto field : value.get_object()) {
-            const std::string_view key = field.unescaped_key();
+        for (od::field field : value.get_object()) {
+            const std::string_view key = Key(field);
             od::value item = field.value();
             if (key == "title") {
                 node->SetTitle(Text(item, "title"));
@@ -118,6 +126,7 @@ public:
             }
         }
         node->SetExtraFields(std::move(extra));
+        node->Compact();
         // Text cut short loses the title, which is written after the lists; the
         // entries before the cut are still worth reading.
         if (!titled && !m_options.keepUnreadable)
@@ -238,7 +247,7 @@ private:
         if (object.find_field_unordered("format").get(format) != simdjson::SUCCESS ||
             format.type() != od::json_type::string)
             throw FormatError("a preset has no \"format\"");
-        const std::string_view formatName = format.get_string();
+        const std::string_view formatName = String(format);
         const LMContainerInfo* container = LMFormatRegistry::Instance().FindContainer(formatName);
         if (!container)
             throw FormatError("unknown format " + Quoted(formatName));
@@ -246,15 +255,15 @@ private:
         auto preset = std::make_shared<LMFormatPreset>(container);
         QJsonObject extra;
         bool titled = false;
-        for (auto field : object) {
-            const std::string_view key = field.unescaped_key();
+        for (od::field field : object) {
+            const std::string_view key = Key(field);
             od::value item = field.value();
             if (key == "title") {
                 preset->SetTitle(Text(item, "title"));
                 titled = true;
             } else if (key == "description") {
-                preset->SetDescription(
-                    Attribute(item, key, extra, [&] { return Text(item, "description"); }));
+                preset->ShareDescription(
+                    Shared(Attribute(item, key, extra, [&] { return Text(item, "description"); })));
             } else if (key == "faceId") {
                 preset->SetFaceID(Attribute(item, key, extra, [&] { return Face(item); }));
             } else if (key == "video" || key == "audio") {
@@ -284,8 +293,8 @@ private:
         audio ? preset.SetCurrentAudioCodec(codec) : preset.SetCurrentVideoCodec(codec);
         object.reset();
         QJsonObject extra;
-        for (auto field : object) {
-            const std::string_view key = field.unescaped_key();
+        for (od::field field : object) {
+            const std::string_view key = Key(field);
             od::value item = field.value();
             if (key == "codec")
                 continue;
@@ -306,25 +315,25 @@ private:
             od::value stream;
             std::string_view name;
             if (object.find_field_unordered("stream").get(stream) != simdjson::SUCCESS ||
-                stream.get_string().get(name) != simdjson::SUCCESS ||
-                (name != "audio" && name != "video"))
+                stream.type() != od::json_type::string ||
+                ((name = String(stream)) != "audio" && name != "video"))
                 throw FormatError("an \"other\" entry names no stream");
             const bool audio = name == "audio";
             const int codec = CodecIndex(preset.Container(), object, audio);
             object.reset();
-            for (auto field : object) {
+            for (od::field field : object) {
                 od::value item = field.value();
-                Option(preset, audio, codec, field.unescaped_key(), item);
+                Option(preset, audio, codec, Key(field), item);
             }
         }
     }
 
     static int CodecIndex(const LMContainerInfo& container, od::object& object, bool audio) {
         od::value id;
-        std::string_view name;
         if (object.find_field_unordered("codec").get(id) != simdjson::SUCCESS ||
-            id.get_string().get(name) != simdjson::SUCCESS)
+            id.type() != od::json_type::string)
             throw FormatError("a stream names no codec");
+        const std::string_view name = String(id);
         const int index = container.FindCodec(audio, name);
         if (index < 0)
             throw FormatError("codec " + Quoted(name) + " is not offered by " + container.id);
@@ -343,7 +352,7 @@ private:
         std::string_view id;
         const bool text = value.type() == od::json_type::string;
         if (text)
-            id = value.get_string();
+            id = String(value);
         const int index = text ? info->Find(which, id) : -1;
         if (index < 0)
             throw FormatError("codec " + info->id + " has no " + std::string(key) + " " +
@@ -355,7 +364,7 @@ private:
     static std::string Text(od::value& value, const char* key) {
         if (value.type() != od::json_type::string)
             throw FormatError(std::string("\"") + key + "\" is missing or not text");
-        const std::string_view text = value.get_string();
+        const std::string_view text = String(value);
         if (text.size() > static_cast<std::size_t>(ILMFormatNode::MaxTextLength) &&
             Utf16Length(text) > static_cast<std::size_t>(ILMFormatNode::MaxTextLength))
             throw FormatError(std::string("\"") + key + "\" is longer than " +
@@ -378,6 +387,17 @@ private:
         return true;
     }
 
+    // One copy of each description: presets of a catalogue share a few.
+    std::shared_ptr<const std::string> Shared(std::string text) {
+        if (text.empty())
+            return nullptr;
+        if (const auto found = m_descriptions.find(text); found != m_descriptions.end())
+            return found->second;
+        auto shared = std::make_shared<const std::string>(std::move(text));
+        m_descriptions.emplace(*shared, shared);
+        return shared;
+    }
+
     // One parser per depth of the entries read from documents of their own: an
     // entry's document stays in use while the entries inside it are read.
     od::parser& Parser(int depth) {
@@ -393,6 +413,7 @@ private:
     // The end of the readable bytes of the text (its padding included).
     const char* m_bufferEnd;
     std::vector<std::unique_ptr<od::parser>> m_parsers;
+    std::unordered_map<std::string_view, std::shared_ptr<const std::string>> m_descriptions;
 };
 
 } // namespace

@@ -252,6 +252,11 @@ LMFormatNode::TextCache& LMFormatNode::JsonTextCache() const {
     return *m_textCache;
 }
 
+void LMFormatNode::Compact() {
+    m_presets.shrink_to_fit();
+    m_children.shrink_to_fit();
+}
+
 void LMFormatNode::Reserve(std::size_t presets, std::size_t children) {
     m_presets.reserve(presets);
     m_children.reserve(children);

@@ -55,6 +55,8 @@ public:
 
     // Room for a known number of entries, used when reading large catalogues.
     void Reserve(std::size_t presets, std::size_t children);
+    // Gives back the room the lists do not use, once a node is read.
+    void Compact();
 
     // An entry that could not be read, kept as it was stored: written back after
     // the first `before` readable entries of its list.

@@ -39,8 +39,8 @@ void LMFormatPreset::CopyFrom(std::shared_ptr<const ILMFormatPreset> other) {
         m_currentVideo = source->m_currentVideo;
         m_currentAudio = source->m_currentAudio;
         m_choices = source->m_choices;
-        m_extra = source->m_extra;
-        m_streamExtra = source->m_streamExtra;
+        m_choiceCount = source->m_choiceCount;
+        m_rare = source->m_rare;
         m_revision.Touch();
         return;
     }
@@ -84,7 +84,13 @@ void LMFormatPreset::SetCurrentVideoCodec(int index) {
 }
 
 const LMFormatPreset::Choice* LMFormatPreset::FindChoice(bool audio, int codec) const {
-    for (const Choice& choice : m_choices) {
+    for (std::size_t i = 0; i < m_choiceCount; ++i) {
+        if (m_choices[i].audio == audio && m_choices[i].codec == codec)
+            return &m_choices[i];
+    }
+    if (!m_rare.Get())
+        return nullptr;
+    for (const Choice& choice : m_rare.Get()->moreChoices) {
         if (choice.audio == audio && choice.codec == codec)
             return &choice;
     }
@@ -112,10 +118,38 @@ void LMFormatPreset::SetOption(bool audio, int codec, LMOptionList list, int ind
         fresh.codec = static_cast<std::uint8_t>(codec);
         for (std::size_t slot = 0; slot < fresh.options.size(); ++slot)
             fresh.options[slot] = static_cast<std::int8_t>(info->defaults[slot]);
-        m_choices.push_back(fresh);
-        choice = &m_choices.back();
+        if (m_choiceCount < m_choices.size()) {
+            m_choices[m_choiceCount] = fresh;
+            choice = &m_choices[m_choiceCount++];
+        } else {
+            std::vector<Choice>& more = m_rare.Make().moreChoices;
+            more.push_back(fresh);
+            choice = &more.back();
+        }
     }
     choice->options[static_cast<std::size_t>(list)] = static_cast<std::int8_t>(index);
+    m_revision.Touch();
+}
+
+const QJsonObject& LMFormatPreset::ExtraFields() const {
+    static const QJsonObject none;
+    return m_rare.Get() ? m_rare.Get()->extra : none;
+}
+
+const QJsonObject& LMFormatPreset::StreamExtraFields(bool audio) const {
+    static const QJsonObject none;
+    return m_rare.Get() ? m_rare.Get()->streamExtra[audio ? 1 : 0] : none;
+}
+
+void LMFormatPreset::SetExtraFields(QJsonObject extra) {
+    if (!extra.isEmpty() || m_rare.Get())
+        m_rare.Make().extra = std::move(extra);
+    m_revision.Touch();
+}
+
+void LMFormatPreset::SetStreamExtraFields(bool audio, QJsonObject extra) {
+    if (!extra.isEmpty() || m_rare.Get())
+        m_rare.Make().streamExtra[audio ? 1 : 0] = std::move(extra);
     m_revision.Touch();
 }
 
@@ -126,7 +160,7 @@ bool LMFormatPreset::IsEqualTo(std::shared_ptr<const ILMFormatPreset> other) con
         return true;
     const auto* that = dynamic_cast<const LMFormatPreset*>(other.get());
     if (!that || m_container != that->m_container || m_title != that->m_title ||
-        m_description != that->m_description || m_faceID != that->m_faceID ||
+        Description() != that->Description() || m_faceID != that->m_faceID ||
         m_currentVideo != that->m_currentVideo || m_currentAudio != that->m_currentAudio)
         return false;
     for (const bool audio : {false, true}) {

@@ -35,7 +35,9 @@ public:
         m_title = LMFormatLimits::Text(title);
         m_revision.Touch();
     }
-    std::string Description() const override { return m_description; }
+    std::string Description() const override {
+        return m_description ? *m_description : std::string();
+    }
     std::shared_ptr<ILMFormatPreset> Clone() const override;
     void CopyFrom(std::shared_ptr<const ILMFormatPreset> other) override;
     std::shared_ptr<ILMCodecPreset> AudioCodecAt(int index) const override;
@@ -48,7 +50,14 @@ public:
     void SetCurrentVideoCodec(int index) override;
     bool IsEqualTo(std::shared_ptr<const ILMFormatPreset> other) const override;
     void SetDescription(const std::string& description) override {
-        m_description = LMFormatLimits::Text(description);
+        ShareDescription(description.empty() ? nullptr
+                                             : std::make_shared<const std::string>(
+                                                   LMFormatLimits::Text(description)));
+    }
+    // Sets a description that other presets may hold too: a catalogue repeats the
+    // same few descriptions over thousands of presets, and the reader keeps one copy.
+    void ShareDescription(std::shared_ptr<const std::string> description) {
+        m_description = std::move(description);
         m_revision.Touch();
     }
     std::string FormatName() const override { return m_container->name; }
@@ -61,17 +70,11 @@ public:
     // Stores a choice; an index outside the list is ignored.
     void SetOption(bool audio, int codec, LMOptionList list, int index);
     // Fields of the preset's JSON this version does not know, written back as read.
-    const QJsonObject& ExtraFields() const { return m_extra; }
-    void SetExtraFields(QJsonObject extra) {
-        m_extra = std::move(extra);
-        m_revision.Touch();
-    }
+    const QJsonObject& ExtraFields() const;
+    void SetExtraFields(QJsonObject extra);
     // The same for the object of the current video or audio stream.
-    const QJsonObject& StreamExtraFields(bool audio) const { return m_streamExtra[audio ? 1 : 0]; }
-    void SetStreamExtraFields(bool audio, QJsonObject extra) {
-        m_streamExtra[audio ? 1 : 0] = std::move(extra);
-        m_revision.Touch();
-    }
+    const QJsonObject& StreamExtraFields(bool audio) const;
+    void SetStreamExtraFields(bool audio, QJsonObject extra);
     // Changes whenever what the preset writes as JSON may have changed.
     std::uint64_t Revision() const { return m_revision.Value(); }
 
@@ -82,17 +85,50 @@ private:
         std::array<std::int8_t, LMOptionListCount> options{};
     };
 
+    // What few presets have, kept apart so that the others do not pay for it:
+    // choices for more than two codecs, and fields of other versions.
+    struct Rare {
+        std::vector<Choice> moreChoices;
+        QJsonObject extra;
+        std::array<QJsonObject, 2> streamExtra;
+    };
+    // Rare, copied with the preset.
+    class RareBox {
+    public:
+        RareBox() = default;
+        RareBox(const RareBox& other)
+            : m_rare(other.m_rare ? std::make_unique<Rare>(*other.m_rare) : nullptr) {}
+        RareBox& operator=(const RareBox& other) {
+            if (this != &other)
+                m_rare = other.m_rare ? std::make_unique<Rare>(*other.m_rare) : nullptr;
+            return *this;
+        }
+        ~RareBox() = default;
+        const Rare* Get() const { return m_rare.get(); }
+        Rare& Make() {
+            if (!m_rare)
+                m_rare = std::make_unique<Rare>();
+            return *m_rare;
+        }
+
+    private:
+        std::unique_ptr<Rare> m_rare;
+    };
+
     const Choice* FindChoice(bool audio, int codec) const;
 
     const LMContainerInfo* m_container;
     std::string m_title;
-    std::string m_description;
+    std::shared_ptr<const std::string> m_description;
     int m_faceID = 0;
     std::int16_t m_currentVideo = -1;
     std::int16_t m_currentAudio = -1;
-    std::vector<Choice> m_choices;
-    QJsonObject m_extra;
-    std::array<QJsonObject, 2> m_streamExtra;
+    // Choices for the codecs whose options differ from their defaults: a preset
+    // rarely has more than its video and audio codec's, which are kept in place;
+    // more go to m_rare.
+    std::array<Choice, 2> m_choices{};
+    std::uint8_t m_choiceCount = 0;
+    RareBox m_rare;
     LMFormatRevision m_revision;
 };
 
