@@ -15,6 +15,7 @@
 #include <QJsonDocument>
 
 #include <algorithm>
+#include <optional>
 #include <stdexcept>
 #include <unordered_map>
 #include <vector>
@@ -85,6 +86,21 @@ std::string_view Key(od::field& field) {
 
 std::string_view String(od::value& value) {
     return LMOnDemandText::String(value);
+}
+
+// The text of the field key of object, the last one when the key repeats (as Qt
+// reads it), or nothing when it is missing or no text. Leaves the object at its
+// start. Keys are compared unescaped.
+std::optional<std::string_view> TextField(od::object& object, std::string_view key) {
+    std::optional<std::string_view> text;
+    for (od::field field : object) {
+        if (Key(field) != key)
+            continue;
+        od::value value = field.value();
+        text = value.type() == od::json_type::string ? std::optional(String(value)) : std::nullopt;
+    }
+    object.reset();
+    return text;
 }
 
 std::string Quoted(std::string_view text) {
@@ -243,15 +259,12 @@ private:
             throw FormatError("a preset is not an object");
         od::object object = value.get_object();
         // What the streams mean depends on the container: its format is read first.
-        od::value format;
-        if (object.find_field_unordered("format").get(format) != simdjson::SUCCESS ||
-            format.type() != od::json_type::string)
+        const auto formatName = TextField(object, "format");
+        if (!formatName)
             throw FormatError("a preset has no \"format\"");
-        const std::string_view formatName = String(format);
-        const LMContainerInfo* container = LMFormatRegistry::Instance().FindContainer(formatName);
+        const LMContainerInfo* container = LMFormatRegistry::Instance().FindContainer(*formatName);
         if (!container)
-            throw FormatError("unknown format " + Quoted(formatName));
-        object.reset();
+            throw FormatError("unknown format " + Quoted(*formatName));
         auto preset = std::make_shared<LMFormatPreset>(container);
         QJsonObject extra;
         bool titled = false;
@@ -270,7 +283,7 @@ private:
                 Stream(*preset, item, key == "audio");
             } else if (key == "other") {
                 Other(*preset, item);
-            } else if (key != "format") {
+            } else if (key != "format") { // read first
                 extra.insert(QtKey(key), QtOf(RawOf(item)));
             }
         }
@@ -291,7 +304,6 @@ private:
         od::object object = value.get_object();
         const int codec = CodecIndex(preset.Container(), object, audio);
         audio ? preset.SetCurrentAudioCodec(codec) : preset.SetCurrentVideoCodec(codec);
-        object.reset();
         QJsonObject extra;
         for (od::field field : object) {
             const std::string_view key = Key(field);
@@ -312,15 +324,11 @@ private:
             if (entry.type() != od::json_type::object)
                 throw FormatError("an \"other\" entry names no stream");
             od::object object = entry.get_object();
-            od::value stream;
-            std::string_view name;
-            if (object.find_field_unordered("stream").get(stream) != simdjson::SUCCESS ||
-                stream.type() != od::json_type::string ||
-                ((name = String(stream)) != "audio" && name != "video"))
+            const auto stream = TextField(object, "stream");
+            if (!stream || (*stream != "audio" && *stream != "video"))
                 throw FormatError("an \"other\" entry names no stream");
-            const bool audio = name == "audio";
+            const bool audio = *stream == "audio";
             const int codec = CodecIndex(preset.Container(), object, audio);
-            object.reset();
             for (od::field field : object) {
                 od::value item = field.value();
                 Option(preset, audio, codec, Key(field), item);
@@ -329,14 +337,12 @@ private:
     }
 
     static int CodecIndex(const LMContainerInfo& container, od::object& object, bool audio) {
-        od::value id;
-        if (object.find_field_unordered("codec").get(id) != simdjson::SUCCESS ||
-            id.type() != od::json_type::string)
+        const auto name = TextField(object, "codec");
+        if (!name)
             throw FormatError("a stream names no codec");
-        const std::string_view name = String(id);
-        const int index = container.FindCodec(audio, name);
+        const int index = container.FindCodec(audio, *name);
         if (index < 0)
-            throw FormatError("codec " + Quoted(name) + " is not offered by " + container.id);
+            throw FormatError("codec " + Quoted(*name) + " is not offered by " + container.id);
         return index;
     }
 

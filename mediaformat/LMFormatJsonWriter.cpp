@@ -295,8 +295,8 @@ std::size_t EnsureChildren(const LMFormatNode& node);
 // changes whenever its text does.
 std::uint64_t Ensure(const LMFormatNode& node) {
     LMFormatNode::TextCache& cache = node.JsonTextCache();
-    const std::size_t count =
-        static_cast<std::size_t>(node.FormatPresetCount() + node.ChildCount());
+    const std::size_t count = static_cast<std::size_t>(node.FormatPresetCount()) +
+                              static_cast<std::size_t>(node.ChildCount());
     bool same =
         cache.stamp != 0 && cache.revision == node.Revision() && cache.pieces.size() == count;
     cache.pieces.resize(count);

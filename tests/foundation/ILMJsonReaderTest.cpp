@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
 
@@ -107,4 +108,53 @@ TEST(ILMJsonReaderTest, ANamedPipeIsRefusedWithoutWaitingForAWriter) {
     std::shared_ptr<const ILMError> error;
     EXPECT_FALSE(ILMJsonReader::ReadJsonFile(path, &error));
     EXPECT_TRUE(error);
+}
+
+// Text Qt's own parser accepts or refuses is accepted or refused alike, and an
+// accepted text gives the same value; except that what JSON itself forbids and
+// Qt lets through (raw control characters in strings, unknown escapes, a number
+// ending in a point) is refused.
+TEST(ILMJsonReaderTest, AcceptsWhatQtsParserAcceptsAndRefusesWhatJsonForbids) {
+    const char* texts[] = {"[1] [2]",
+                           "[1]  \n",
+                           "{} 1",
+                           R"({"a":[1,2,{"b":nul}]})",
+                           "[18446744073709551616]",
+                           "[1,]",
+                           R"({"a" 1})",
+                           "[tru]",
+                           "[01]",
+                           R"(["\u00e9"])",
+                           R"({"ti\u0074le":"x\ty\"z"})",
+                           "[-0.5e3,true,false,null]",
+                           "\xEF\xBB\xBF[1]",
+                           "[1e400]",
+                           R"({"a":1,"a":2})",
+                           "  {\"a\" : [ ] }  ",
+                           "{",
+                           "[\"unterminated]",
+                           R"({"a":{}})"};
+    for (const char* text : texts) {
+        QJsonParseError error;
+        const QJsonDocument qt = QJsonDocument::fromJson(QByteArray(text), &error);
+        const auto ours = ILMJsonReader::ReadJsonString(text, nullptr);
+        const bool qtAccepts = error.error == QJsonParseError::NoError;
+        EXPECT_EQ(bool(ours), qtAccepts) << text;
+        if (ours && qtAccepts) {
+            EXPECT_EQ(ours->Value(),
+                      qt.isObject() ? QJsonValue(qt.object()) : QJsonValue(qt.array()))
+                << text;
+        }
+    }
+    for (const char* forbidden : {R"(["\q"])", R"({"\q":1})", "[1.]", "[\"a\x01\"]"})
+        EXPECT_FALSE(ILMJsonReader::ReadJsonString(forbidden, nullptr)) << forbidden;
+}
+
+TEST(ILMJsonReaderTest, AValueReadFromTextKeepsItAndWritesAsQtWould) {
+    const std::string text = " { \"b\" : 1, \"a\" : \"x\\u0041\" } ";
+    const auto json = ILMJsonReader::ReadJsonString(text, nullptr);
+    ASSERT_TRUE(json);
+    EXPECT_EQ(json->Text(), text);
+    EXPECT_FALSE(json->TextIsWritten());
+    EXPECT_EQ(ILMJsonWriter::WriteJsonString(json), R"({"a":"xA","b":1})");
 }
