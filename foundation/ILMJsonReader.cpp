@@ -25,8 +25,12 @@ std::shared_ptr<const ILMJsonValue> Parse(std::string text,
     auto value = ILMJsonValue::MallocJsonText(std::move(text), false);
     LMJsonTextCheck::Failure failure;
     if (!LMJsonTextCheck::Check(value->Text(), &failure)) {
+        // Damage found while indexing the text (bad UTF-8, a raw control
+        // character) has no place; the rest is named where reading stopped.
+        const bool placed = failure.offset < value->Text().size();
         ILMError::Report(error, ILMError::ParseError,
-                         failure.why + " at offset " + std::to_string(failure.offset));
+                         placed ? failure.why + " at offset " + std::to_string(failure.offset)
+                                : failure.why);
         return {};
     }
     return value;
