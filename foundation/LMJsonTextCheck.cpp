@@ -88,10 +88,9 @@ error_code Visit(od::value value, std::size_t depth) {
 } // namespace
 
 bool LMJsonTextCheck::Check(std::string_view paddedText, Failure* failure) {
-    const auto fail = [&](error_code error, const char* where) {
+    const auto fail = [&](const std::string& why, const char* where) {
         if (failure) {
-            failure->why = error == simdjson::TAPE_ERROR ? "not a JSON object or array"
-                                                         : simdjson::error_message(error);
+            failure->why = why;
             failure->offset = where && where >= paddedText.data()
                                   ? static_cast<std::size_t>(where - paddedText.data())
                                   : paddedText.size();
@@ -104,23 +103,23 @@ bool LMJsonTextCheck::Check(std::string_view paddedText, Failure* failure) {
                                      .iterate(paddedText.data(), paddedText.size(),
                                               paddedText.size() + ILMJsonValue::TextPadding)
                                      .get(document))
-        return fail(error, nullptr);
-    od::value root;
-    error_code error = document.get_value().get(root);
+        return fail(simdjson::error_message(error), nullptr);
     od::json_type type = od::json_type::null;
-    if (!error)
-        error = root.type().get(type);
+    error_code error = document.type().get(type);
     if (!error && type != od::json_type::object && type != od::json_type::array)
-        error = simdjson::TAPE_ERROR;
+        return fail("not a JSON object or array", paddedText.data());
+    od::value root;
+    if (!error)
+        error = document.get_value().get(root);
     if (!error)
         error = Visit(root, 0);
     const char* at = nullptr;
     const bool inside = !document.current_location().get(at);
     if (error)
-        return fail(error, inside ? at : nullptr);
+        return fail(simdjson::error_message(error), inside ? at : nullptr);
     // Anything after the first value makes the text more than one value.
     if (inside)
-        return fail(simdjson::TRAILING_CONTENT, at);
+        return fail(simdjson::error_message(simdjson::TRAILING_CONTENT), at);
     return true;
 }
 
