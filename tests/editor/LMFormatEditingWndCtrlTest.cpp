@@ -669,6 +669,7 @@ TEST_F(LMFormatEditingWndCtrlTest, TheVisibleCancelButtonEndsTheSessionWithoutSa
 TEST_F(LMFormatEditingWndCtrlTest, TheCancelButtonFollowsTheLanguage) {
     LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageGerman);
     ASSERT_NE(Localized("Cancel"), QStringLiteral("Cancel"));
+    ASSERT_NE(button("btnCancel"), nullptr);
     EXPECT_EQ(button("btnCancel")->text(), Localized("Cancel"));
 }
 

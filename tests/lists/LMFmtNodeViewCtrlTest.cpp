@@ -468,12 +468,14 @@ TEST_F(LMFmtNodeViewCtrlTest, RemovingTheCurrentPresetByKeyLeavesTheFocusOnTheRo
     QTest::keyClick(nodes(), Qt::Key_Right);
     ASSERT_TRUE(formats()->hasFocus());
     ASSERT_EQ(formats()->numberOfItems(), 3);
-    const QString second = Titles(formats()).at(1);
+    const QString third = Titles(formats()).at(2);
 
+    // The middle row goes: the row after it, not the one before, is current.
+    QTest::keyClick(formats(), Qt::Key_Down);
     QTest::keyClick(formats(), Qt::Key_Delete);
     EXPECT_TRUE(formats()->hasFocus());
-    EXPECT_EQ(formats()->currentIndex().row(), 0);
-    EXPECT_EQ(formats()->currentIndex().data().toString(), second);
+    EXPECT_EQ(formats()->currentIndex().row(), 1);
+    EXPECT_EQ(formats()->currentIndex().data().toString(), third);
 
     // The last row gone, the new last row is current.
     QTest::keyClick(formats(), Qt::Key_End);
