@@ -90,6 +90,12 @@ struct LMFormatCollectionView::Private {
         return item;
     }
 
+    // The cell of the keyboard's current row, made if need be; null without one.
+    LMFormatDataViewItem* currentItem() {
+        const QModelIndex current = q->currentIndex();
+        return current.isValid() ? itemForRow(current.row(), true) : nullptr;
+    }
+
     void recycle(std::map<int, LMFormatDataViewItem*>::iterator it) {
         pool.push_back(it->second);
         live.erase(it);
@@ -516,13 +522,10 @@ bool LMFormatCollectionView::chooseByKey(const QKeyEvent* event) {
 
 bool LMFormatCollectionView::removeByKey(const QKeyEvent* event) {
     const bool remove = event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace;
-    const QModelIndex current = currentIndex();
-    if (!remove || !current.isValid())
-        return false;
-    LMFormatDataViewItem* item = d->itemForRow(current.row(), true);
+    LMFormatDataViewItem* item = remove ? d->currentItem() : nullptr;
     if (!item || !item->removable())
         return false;
-    removeItem(item, current.row());
+    removeItem(item, currentIndex().row());
     return true;
 }
 
@@ -531,10 +534,7 @@ bool LMFormatCollectionView::editByKey(const QKeyEvent* event) {
     const bool edit = (event->key() == Qt::Key_F2 && modifiers == Qt::NoModifier) ||
                       (event->key() == Qt::Key_E && modifiers == Qt::ControlModifier) ||
                       event->key() == Qt::Key_Menu;
-    const QModelIndex current = currentIndex();
-    if (!edit || !current.isValid())
-        return false;
-    LMFormatDataViewItem* item = d->itemForRow(current.row(), true);
+    LMFormatDataViewItem* item = edit ? d->currentItem() : nullptr;
     if (!item || !item->editable())
         return false;
     item->settingClicked();

@@ -482,18 +482,14 @@ bool LMFormatSelectionWndCtrlPrivate::switchTabByKey(const QKeyEvent* event) {
     if (!(modifiers & Qt::ControlModifier) || (modifiers & (Qt::AltModifier | Qt::MetaModifier)))
         return false;
     const bool shift = modifiers & Qt::ShiftModifier;
-    int step = 0;
+    const int key = event->key();
     // Ctrl+Shift+Tab arrives as Backtab from the window system.
-    if (event->key() == Qt::Key_Tab)
-        step = shift ? -1 : 1;
-    else if (event->key() == Qt::Key_Backtab)
-        step = -1;
-    else if (event->key() == Qt::Key_PageDown && !shift)
-        step = 1;
-    else if (event->key() == Qt::Key_PageUp && !shift)
-        step = -1;
-    if (step == 0)
+    const bool forward = (key == Qt::Key_Tab || key == Qt::Key_PageDown) && !shift;
+    const bool backward = (key == Qt::Key_Tab && shift) || key == Qt::Key_Backtab ||
+                          (key == Qt::Key_PageUp && !shift);
+    if (!forward && !backward)
         return false;
+    const int step = forward ? 1 : -1;
     LMTabHeaderView* strip = ui->tabHeaderView;
     const auto count = qsizetype(strip->countOfTab());
     if (count > 0) {

@@ -181,6 +181,31 @@ protected:
             QTest::keyClick(ctrl->windowHandle(), c.toLatin1());
     }
 
+    // Typing at the window lands in the search field, which has the focus.
+    void ExpectTypingReachesTheSearchField() {
+        Type(QStringLiteral("hd"));
+        EXPECT_EQ(d->searchField()->text(), QStringLiteral("hd"));
+        EXPECT_EQ(ctrl->searchText(), QStringLiteral("hd"));
+        EXPECT_TRUE(d->searchField()->hasFocus());
+    }
+
+    // Opens the popup on the first category and types text at it; the list of
+    // that category's presets.
+    LMFormatCollectionView* SearchFirstCategory(const QString& text) {
+        LoadDefault();
+        Popup();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(ctrl));
+        Type(text);
+        return d->defFmtViewCtrls().first()->fmtListView();
+    }
+
+    // The title of the preset of the one completion; empty for anything else.
+    QString OnlyChosenTitle() const {
+        if (completions.size() != 1 || !completions[0].preset)
+            return {};
+        return QString::fromStdString(completions[0].preset->Title());
+    }
+
     LMFormatCollectionView* FirstCategoryNodes() const {
         return d->defFmtViewCtrls().first()->nodeListView();
     }
@@ -560,10 +585,7 @@ TEST_F(LMFormatSelectionWndCtrlTest, ANewCustomPresetFromTheEditorReloadsTheCust
 TEST_F(LMFormatSelectionWndCtrlTest, OnOpenTheSearchFieldHasTheFocusAndTypingSearches) {
     LoadDefault();
     PopupActive();
-    EXPECT_TRUE(d->searchField()->hasFocus());
-    Type(QStringLiteral("hd"));
-    EXPECT_EQ(d->searchField()->text(), QStringLiteral("hd"));
-    EXPECT_EQ(ctrl->searchText(), QStringLiteral("hd"));
+    ExpectTypingReachesTheSearchField();
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest,
@@ -574,9 +596,7 @@ TEST_F(LMFormatSelectionWndCtrlTest,
     EXPECT_EQ(QApplication::focusWidget(), ctrl);
 
     LoadDefault();
-    EXPECT_TRUE(d->searchField()->hasFocus());
-    Type(QStringLiteral("hd"));
-    EXPECT_EQ(d->searchField()->text(), QStringLiteral("hd"));
+    ExpectTypingReachesTheSearchField();
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, AfterClickingAListThenATabTypingReachesTheSearchField) {
@@ -587,9 +607,7 @@ TEST_F(LMFormatSelectionWndCtrlTest, AfterClickingAListThenATabTypingReachesTheS
     ClickTab(2);
     ASSERT_EQ(d->tabHeaderView()->indexOfSelected(), 2u);
 
-    EXPECT_TRUE(d->searchField()->hasFocus());
-    Type(QStringLiteral("hd"));
-    EXPECT_EQ(d->searchField()->text(), QStringLiteral("hd"));
+    ExpectTypingReachesTheSearchField();
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, CtrlTabAndCtrlPageKeysSwitchTabsRoundTheStrip) {
@@ -653,9 +671,7 @@ TEST_F(LMFormatSelectionWndCtrlTest, TypingOnAFocusedTabGoesToTheSearchField) {
     LoadDefault();
     PopupActive();
     d->tabHeaderView()->tabButtons().at(2)->setFocus(Qt::TabFocusReason);
-    Type(QStringLiteral("hd"));
-    EXPECT_EQ(d->searchField()->text(), QStringLiteral("hd"));
-    EXPECT_TRUE(d->searchField()->hasFocus());
+    ExpectTypingReachesTheSearchField();
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, SpaceInAListReachesTheSearchFieldOnlyOnceItHoldsText) {
@@ -675,10 +691,7 @@ TEST_F(LMFormatSelectionWndCtrlTest, SpaceInAListReachesTheSearchFieldOnlyOnceIt
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, DownInTheSearchFieldMovesToTheFirstRowAndEnterChoosesIt) {
-    LoadDefault();
-    PopupActive();
-    Type(QStringLiteral("hd"));
-    LMFormatCollectionView* presets = d->defFmtViewCtrls().first()->fmtListView();
+    LMFormatCollectionView* presets = SearchFirstCategory(QStringLiteral("hd"));
     ASSERT_GT(presets->numberOfItems(), 1);
     const QString second = Titles(presets).at(1);
 
@@ -687,24 +700,17 @@ TEST_F(LMFormatSelectionWndCtrlTest, DownInTheSearchFieldMovesToTheFirstRowAndEn
     EXPECT_EQ(presets->currentIndex().row(), 0);
     Press(Qt::Key_Down);
     Press(Qt::Key_Return);
-    ASSERT_EQ(completions.size(), 1u);
-    ASSERT_NE(completions[0].preset, nullptr);
-    EXPECT_EQ(QString::fromStdString(completions[0].preset->Title()), second);
+    EXPECT_EQ(OnlyChosenTitle(), second);
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, EnterInTheSearchFieldChoosesTheFirstMatch) {
-    LoadDefault();
-    PopupActive();
-    Type(QStringLiteral("720"));
-    LMFormatCollectionView* presets = d->defFmtViewCtrls().first()->fmtListView();
+    LMFormatCollectionView* presets = SearchFirstCategory(QStringLiteral("720"));
     ASSERT_GT(presets->numberOfItems(), 0);
     const QString first = Titles(presets).first();
 
     Press(Qt::Key_Return);
     EXPECT_FALSE(ctrl->isVisible());
-    ASSERT_EQ(completions.size(), 1u);
-    ASSERT_NE(completions[0].preset, nullptr);
-    EXPECT_EQ(QString::fromStdString(completions[0].preset->Title()), first);
+    EXPECT_EQ(OnlyChosenTitle(), first);
     EXPECT_TRUE(first.contains(QStringLiteral("720"))) << first.toStdString();
 }
 

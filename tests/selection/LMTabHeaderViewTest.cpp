@@ -92,6 +92,17 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(strip.get()));
     }
 
+    // Shown and active, the first tab's neighbour given the focus with Right
+    // from the first tab.
+    void focusSecondTabByKey() {
+        showStrip();
+        strip->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(strip.get()));
+        strip->tabButtons().at(0)->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(strip->tabButtons().at(0), Qt::Key_Right);
+        ASSERT_TRUE(strip->tabButtons().at(1)->hasFocus());
+    }
+
     void click(std::size_t index) {
         QTest::mouseClick(strip->tabButtons().at(static_cast<qsizetype>(index)), Qt::LeftButton);
     }
@@ -448,15 +459,9 @@ TEST_F(LMTabHeaderViewTest, ClickingATabLeavesTheFocusInTheSearchField) {
 
 TEST_F(LMTabHeaderViewTest, LeftAndRightOnAFocusedTabSelectTheNeighbourWhichTakesTheFocus) {
     addTabs({QStringLiteral("Recent"), QStringLiteral("Video"), QStringLiteral("Custom")});
-    showStrip();
-    strip->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(strip.get()));
+    focusSecondTabByKey();
     const QList<QPushButton*>& tabs = strip->tabButtons();
-    tabs.at(0)->setFocus(Qt::TabFocusReason);
-
-    QTest::keyClick(tabs.at(0), Qt::Key_Right);
     EXPECT_EQ(strip->indexOfSelected(), 1u);
-    EXPECT_TRUE(tabs.at(1)->hasFocus());
     QTest::keyClick(tabs.at(1), Qt::Key_Right);
     QTest::keyClick(tabs.at(2), Qt::Key_Right);
     EXPECT_EQ(strip->indexOfSelected(), 2u);
@@ -476,13 +481,7 @@ TEST_F(LMTabHeaderViewTest, LeftAndRightOnAFocusedTabSelectTheNeighbourWhichTake
 // whether the host's palette is light or dark.
 TEST_F(LMTabHeaderViewTest, TheFocusedTabShowsAFocusRingInLightAndDarkPalettes) {
     addSevenTabs();
-    showStrip();
-    strip->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(strip.get()));
-    const QList<QPushButton*>& tabs = strip->tabButtons();
-    tabs.at(1)->setFocus(Qt::TabFocusReason);
-    QTest::keyClick(tabs.at(1), Qt::Key_Right);
-    ASSERT_TRUE(tabs.at(2)->hasFocus());
+    focusSecondTabByKey();
 
     for (const QColor& window : {QColor(239, 239, 239), QColor(45, 45, 45)}) {
         QPalette palette = strip->palette();
@@ -490,8 +489,8 @@ TEST_F(LMTabHeaderViewTest, TheFocusedTabShowsAFocusRingInLightAndDarkPalettes) 
         palette.setColor(QPalette::Highlight, QColor(200, 30, 40));
         strip->setPalette(palette);
         const QImage image = rendered();
-        const QRect focused = strip->frameOfTabButton(2);
-        const QRect other = strip->frameOfTabButton(3);
+        const QRect focused = strip->frameOfTabButton(1);
+        const QRect other = strip->frameOfTabButton(2);
         for (const int inside : {2, 3}) {
             EXPECT_EQ(rgbAt(image, focused.left() + inside, focused.center().y()), "200,30,40")
                 << window.name().toStdString();
