@@ -191,6 +191,9 @@ void LMFormatEditingWndCtrlPrivate::connectControls() {
     onPick(ui->cmbSampleRate, &LMFormatEditingWndCtrlPrivate::AudioAampleRateChangeAction);
     onPick(ui->cmbAQuality, &LMFormatEditingWndCtrlPrivate::AudioQualityChangeAction);
     QObject::connect(ui->btnDefault, &QPushButton::clicked, q, [this] { ResetAction(); });
+    // Cancel stays enabled without a preset: it is the way out the keyboard and
+    // the eye find first, besides Escape and the window's close control.
+    QObject::connect(ui->btnCancel, &QPushButton::clicked, q, [this] { CancelAction(); });
     QObject::connect(ui->btnSave, &QPushButton::clicked, q, [this] { SaveAction(); });
     QObject::connect(ui->btnSaveNewPreset, &QPushButton::clicked, q,
                      [this] { SaveAsNewPresetAction(); });
@@ -254,6 +257,7 @@ void LMFormatEditingWndCtrlPrivate::languageDidChanged() {
     form.lblChannel->setText(text(QStringLiteral("Channel")));
     form.lblSampleRate->setText(text(QStringLiteral("Sample Rate")));
     form.btnDefault->setText(text(QStringLiteral("Reset")));
+    form.btnCancel->setText(text(QStringLiteral("Cancel")));
     form.btnSave->setText(text(QStringLiteral("Save")));
     form.btnSaveNewPreset->setText(text(QStringLiteral("Save as New Preset")));
     // One label width for both sections, so that their boxes line up.
@@ -477,7 +481,10 @@ void LMFormatEditingWndCtrlPrivate::SaveAsNewPresetAction() {
     // One question at a time: the prompt blocks the editor until it is answered.
     if (!editingFormat || (prompt && prompt->isVisible()))
         return;
-    getNewPresetName(getAppName(), q->lizationMgr()->stringForKey(QStringLiteral("customSave")),
+    // The prompt's title bar names the application; its message says what is
+    // being asked, so the application's name is not repeated in it.
+    getNewPresetName(q->lizationMgr()->stringForKey(QStringLiteral("Save as New Preset")),
+                     q->lizationMgr()->stringForKey(QStringLiteral("customSave")),
                      GetDefaultCustomFormatName(), q, [this](const QString& name) {
                          if (name.isEmpty() || !editingFormat)
                              return;
@@ -521,6 +528,7 @@ void LMFormatEditingWndCtrlPrivate::getNewPresetName(
     const QString& message, const QString& label, const QString& value, QWidget* window,
     std::function<void(const QString&)> completeHandler) {
     auto* question = new LMNewPresetPrompt(window);
+    question->setWindowTitle(getAppName());
     question->setMessageText(message);
     question->setInformativeText(label);
     LMNewPresetView* view = LMNewPresetView::creatNewPresetView();

@@ -44,8 +44,9 @@ QString LMNewPresetPrompt::messageText() const {
 }
 
 void LMNewPresetPrompt::setMessageText(const QString& text) {
+    // The title bar is the caller's (the editor puts the application's name
+    // there); repeating the message in it would show the same words twice.
     d->ui.lblMessage->setText(text);
-    setWindowTitle(text);
 }
 
 QString LMNewPresetPrompt::informativeText() const {

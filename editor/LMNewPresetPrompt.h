@@ -10,7 +10,9 @@ class LMFormatInternationalizationMgr;
 class LMNewPresetView;
 
 // The question "name of the new preset?" shown over the editor: a bold message,
-// an informative line, an accessory view and the buttons "OK" and "Cancel". It
+// an informative line, an accessory view and the buttons "OK" and "Cancel"; the
+// window title is set apart from the message (the editor shows the
+// application's name there, and only there). It
 // is window-modal, so only the window it is shown over is blocked, and it
 // answers with the code of the button that ended it.
 class LMNewPresetPrompt : public QDialog {

@@ -15,6 +15,10 @@ namespace {
 constexpr int kImageSize = 32;
 constexpr int kGlyphSize = 16;
 constexpr int kDefaultHeight = 52;
+// The focus ring: two pixels wide, three pixels inside the row's edges, around
+// the hover background rather than on it.
+constexpr qreal kFocusRingWidth = 2.0;
+constexpr qreal kFocusRingInset = 3.0;
 
 // The button glyphs are drawn rather than shipped, at each common scale factor,
 // so they stay sharp on every screen.
@@ -125,16 +129,27 @@ void LMFormatCollectionItemDelegate::paint(QPainter* painter, const QStyleOption
     paintButton(painter, option, layout.remove, m_removeIcon,
                 down == LMFormatDataView::ActionButton::Remove);
 
-    // The keyboard's current row gets an outline, unless the selection
-    // background already marks it.
-    if ((option.state & QStyle::State_HasFocus) && !(option.state & QStyle::State_Selected)) {
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(QPen(LMFormatDataView::borderColor(), 1.0));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRoundedRect(QRectF(option.rect).adjusted(4.5, 4.5, -4.5, -4.5), 6.0, 6.0);
-        painter->restore();
-    }
+    if (option.state & QStyle::State_HasFocus)
+        paintFocusRing(painter, option);
+}
+
+// The keyboard's current row gets a ring in the palette's highlight colour,
+// selected or not: a selection shows what is chosen, not where the keys act
+// (in a list of formats the current row is always the selected one). The
+// highlight stands out on the light and the dark palettes' bases alike.
+void LMFormatCollectionItemDelegate::paintFocusRing(QPainter* painter,
+                                                    const QStyleOptionViewItem& option) {
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(focusRingColor(option.palette), kFocusRingWidth));
+    painter->setBrush(Qt::NoBrush);
+    const qreal inset = kFocusRingInset + kFocusRingWidth / 2.0;
+    painter->drawRoundedRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset), 6.0, 6.0);
+    painter->restore();
+}
+
+QColor LMFormatCollectionItemDelegate::focusRingColor(const QPalette& palette) {
+    return palette.color(QPalette::Active, QPalette::Highlight);
 }
 
 // Drawn as the style draws a flat tool button: the glyph alone, sunk while held.

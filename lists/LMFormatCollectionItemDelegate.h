@@ -11,7 +11,8 @@ class LMFormatDataView;
 // Paints a format list's rows from the model's data: the image, the title over
 // the muted description, and, on a hovered row of a list that allows them, the
 // edit or remove button; a hovered or selected row gets the rounded background
-// its LMFormatDataView draws. Rows are painted directly, so only visible rows
+// its LMFormatDataView draws, and the list's current row, while the list has the
+// keyboard focus, a focus ring. Rows are painted directly, so only visible rows
 // cost anything and no row has a widget. Where the buttons lie comes from
 // LMFormatCellLayout, by which the list also hit-tests them.
 class LMFormatCollectionItemDelegate : public QStyledItemDelegate {
@@ -31,7 +32,11 @@ public:
                const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
+    // Colour of the focus ring in a list of that palette.
+    static QColor focusRingColor(const QPalette& palette);
+
 private:
+    static void paintFocusRing(QPainter* painter, const QStyleOptionViewItem& option);
     void paintButton(QPainter* painter, const QStyleOptionViewItem& option, const QRect& rect,
                      const QIcon& icon, bool down) const;
 

@@ -8,6 +8,7 @@
 #include "LMFormatDataView.h"
 #include "LMFormatDataViewItem.h"
 #include "LMFormatInternationalizationMgr.h"
+#include "LMKeyText.h"
 
 #include <QCursor>
 #include <QHelpEvent>
@@ -87,6 +88,12 @@ struct LMFormatCollectionView::Private {
         // A cell that appears under a still pointer is hovered at once.
         item->resetMouseState();
         return item;
+    }
+
+    // The cell of the keyboard's current row, made if need be; null without one.
+    LMFormatDataViewItem* currentItem() {
+        const QModelIndex current = q->currentIndex();
+        return current.isValid() ? itemForRow(current.row(), true) : nullptr;
     }
 
     void recycle(std::map<int, LMFormatDataViewItem*>::iterator it) {
@@ -448,7 +455,7 @@ void LMFormatCollectionView::mouseReleaseEvent(QMouseEvent* event) {
     if (pressed == LMFormatDataView::ActionButton::Edit)
         item->settingClicked();
     else
-        item->removeClicked();
+        removeItem(item, row);
 }
 
 void LMFormatCollectionView::mouseMoveEvent(QMouseEvent* event) {
@@ -474,9 +481,9 @@ void LMFormatCollectionView::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void LMFormatCollectionView::keyPressEvent(QKeyEvent* event) {
     // Escape is the window's: it closes the popup.
-    const bool handled =
-        event->key() != Qt::Key_Escape && (navigateByKey(event) || chooseByKey(event) ||
-                                           removeByKey(event) || forwardTypedText(event));
+    const bool handled = event->key() != Qt::Key_Escape &&
+                         (navigateByKey(event) || chooseByKey(event) || removeByKey(event) ||
+                          editByKey(event) || forwardTypedText(event));
     event->setAccepted(handled);
 }
 
@@ -485,6 +492,9 @@ bool LMFormatCollectionView::navigateByKey(const QKeyEvent* event) {
         {Qt::Key_Up, MoveUp},         {Qt::Key_Down, MoveDown},
         {Qt::Key_PageUp, MovePageUp}, {Qt::Key_PageDown, MovePageDown},
         {Qt::Key_Home, MoveHome},     {Qt::Key_End, MoveEnd}};
+    // Ctrl+PgUp and Ctrl+PgDn switch tabs: the window's, like every Ctrl key.
+    if (event->modifiers() & Qt::ControlModifier)
+        return false;
     const auto action = actions.find(event->key());
     if (action == actions.end())
         return false;
@@ -512,22 +522,58 @@ bool LMFormatCollectionView::chooseByKey(const QKeyEvent* event) {
 
 bool LMFormatCollectionView::removeByKey(const QKeyEvent* event) {
     const bool remove = event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace;
-    const QModelIndex current = currentIndex();
-    if (!remove || !current.isValid())
-        return false;
-    LMFormatDataViewItem* item = d->itemForRow(current.row(), true);
+    LMFormatDataViewItem* item = remove ? d->currentItem() : nullptr;
     if (!item || !item->removable())
         return false;
-    item->removeClicked();
+    removeItem(item, currentIndex().row());
     return true;
 }
 
+bool LMFormatCollectionView::editByKey(const QKeyEvent* event) {
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    const bool edit = (event->key() == Qt::Key_F2 && modifiers == Qt::NoModifier) ||
+                      (event->key() == Qt::Key_E && modifiers == Qt::ControlModifier) ||
+                      event->key() == Qt::Key_Menu;
+    LMFormatDataViewItem* item = edit ? d->currentItem() : nullptr;
+    if (!item || !item->editable())
+        return false;
+    item->settingClicked();
+    return true;
+}
+
+void LMFormatCollectionView::removeItem(LMFormatDataViewItem* item, int row) {
+    const bool hadFocus = hasFocus();
+    item->removeClicked();
+    if (!hadFocus)
+        return;
+    // The focus stays where the removed row was: on the row that took its
+    // place, the new last row, or, with no row left, wherever the owner says.
+    const int count = numberOfItems();
+    if (count == 0) {
+        Q_EMIT focusReleased();
+        return;
+    }
+    const QModelIndex next = d->model->index(std::min(row, count - 1));
+    selectionModel()->setCurrentIndex(next, QItemSelectionModel::NoUpdate);
+    scrollTo(next);
+}
+
+void LMFormatCollectionView::chooseItemAtIndexPath(int indexPath) {
+    d->userSelect(indexPath, true);
+}
+
+void LMFormatCollectionView::focusItemAtIndexPath(int indexPath) {
+    if (!d->hasRow(indexPath))
+        return;
+    const QModelIndex index = d->model->index(indexPath);
+    setFocus(Qt::OtherFocusReason);
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    scrollTo(index);
+}
+
 bool LMFormatCollectionView::forwardTypedText(const QKeyEvent* event) {
-    const QString text = event->text();
-    const bool command =
-        event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    if (command || text.isEmpty() ||
-        !std::all_of(text.begin(), text.end(), [](QChar c) { return c.isPrint(); }))
+    const QString text = LMKeyText::typedText(*event);
+    if (text.isEmpty())
         return false;
     Q_EMIT textTyped(text);
     return true;

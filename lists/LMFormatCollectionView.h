@@ -26,8 +26,10 @@ class LMFormatDataViewItem;
 // user's actions are reported to the delegate (a click on a cell; in a list that
 // selectsOnNavigation, the arrow keys; otherwise Enter or Return on the current
 // row); the program's own selections are not. Delete or Backspace on a removable
-// current cell asks to remove it. Printable keys are offered as textTyped() for
-// whoever owns a search field; Escape is left to the window.
+// current cell asks to remove it, F2, Ctrl+E or the context-menu key on an
+// editable one asks to edit it. Printable keys are offered as textTyped() for
+// whoever owns a search field; Escape and every other Ctrl key are left to the
+// window.
 class LMFormatCollectionView : public QListView {
     Q_OBJECT
     Q_PROPERTY(int itemHeight READ itemHeight WRITE setItemHeight)
@@ -72,6 +74,13 @@ public:
     // The number of rows as the list knows it (the data source's count at the
     // last reload, less deleted rows).
     int numberOfItems() const;
+    // Chooses a row as Enter on it does: the delegate hears of it even when the
+    // row was selected already.
+    void chooseItemAtIndexPath(int indexPath);
+    // Takes the keyboard focus with indexPath as the current row; nothing for a
+    // row the list does not have.
+    void focusItemAtIndexPath(int indexPath);
+
     // The cell of a row, or nullptr when the row has no cell now.
     LMFormatDataViewItem* itemAtIndex(int index) const;
     // The row of a cell, or -1 when the cell has no row now.
@@ -82,6 +91,9 @@ public:
 Q_SIGNALS:
     // Printable text typed while the list has the focus.
     void textTyped(const QString& text);
+    // The user removed the last row while the list had the focus: the focus
+    // has nowhere to go in the list, and whoever owns a search field takes it.
+    void focusReleased();
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -103,6 +115,10 @@ private:
     bool navigateByKey(const QKeyEvent* event);
     bool chooseByKey(const QKeyEvent* event);
     bool removeByKey(const QKeyEvent* event);
+    bool editByKey(const QKeyEvent* event);
+    // Removes the row of item as its remove button does, the focus then moving
+    // to the row after it.
+    void removeItem(LMFormatDataViewItem* item, int row);
     // Printable text typed in a list belongs to the window's search field.
     bool forwardTypedText(const QKeyEvent* event);
     struct Private;

@@ -4,6 +4,7 @@
 #include "LMFormatCellLayout.h"
 #include "LMFormatDataViewDelegate.h"
 #include "LMFormatInternationalizationMgr.h"
+#include "LMKeyText.h"
 
 #include <QCursor>
 #include <QPainter>
@@ -166,11 +167,17 @@ LMFormatDataView::ActionButton LMFormatDataView::actionButtonDown() const {
 }
 
 QString LMFormatDataView::actionButtonToolTip(ActionButton button) const {
+    // The tip names the keys that do the same on the list's current row.
     switch (button) {
     case ActionButton::Edit:
-        return lizationMgr()->stringForKey(QStringLiteral("Edit"));
+        return lizationMgr()
+            ->stringForKey(QStringLiteral("Edit (%1)"))
+            .arg(LMKeyText::names({QKeyCombination(Qt::Key_F2), Qt::CTRL | Qt::Key_E,
+                                   QKeyCombination(Qt::Key_Menu)}));
     case ActionButton::Remove:
-        return lizationMgr()->stringForKey(QStringLiteral("Remove"));
+        return lizationMgr()
+            ->stringForKey(QStringLiteral("Remove (%1)"))
+            .arg(LMKeyText::names({QKeyCombination(Qt::Key_Delete)}));
     case ActionButton::None:
         break;
     }

@@ -80,7 +80,7 @@ public:
     // Keys that are looked up but not bound: the titles and descriptions of the
     // default catalogue and of the lists the data source makes, the option names
     // of the preset editor, and the words of the popup and the editor.
-    static constexpr std::array<const char*, 31> otherKeys{
+    static constexpr std::array<const char*, 39> otherKeys{
         // Titles and descriptions of the default catalogue.
         QT_TRANSLATE_NOOP("Localizable", "Smartphone"),
         QT_TRANSLATE_NOOP("Localizable", "Tablet"),
@@ -117,6 +117,15 @@ public:
         QT_TRANSLATE_NOOP("Localizable", "Choose a format"),
         QT_TRANSLATE_NOOP("Localizable", "Format"),
         QT_TRANSLATE_NOOP("Localizable", "Names are limited to %1 characters."),
+        // Tool tips naming the keys (%1: the keys in the platform's words).
+        QT_TRANSLATE_NOOP("Localizable", "Next tab (%1)"),
+        QT_TRANSLATE_NOOP("Localizable", "Previous tab (%1)"),
+        QT_TRANSLATE_NOOP("Localizable", "Move between tabs (%1)"),
+        QT_TRANSLATE_NOOP("Localizable", "Type anywhere to search"),
+        QT_TRANSLATE_NOOP("Localizable", "Move to the list (%1)"),
+        QT_TRANSLATE_NOOP("Localizable", "Choose the first match (%1)"),
+        QT_TRANSLATE_NOOP("Localizable", "Edit (%1)"),
+        QT_TRANSLATE_NOOP("Localizable", "Remove (%1)"),
     };
 
     // boundKeys as the manager hands them out, duplicates included.

@@ -8,8 +8,10 @@
 #include "ILMFmtPresetDataSource.h"
 #include "LMFmtNodeViewCtrl.h"
 #include "LMFmtRecentViewCtrl.h"
+#include "LMFormatCollectionView.h"
 #include "LMFormatEditingWndCtrl.h"
 #include "LMFormatInternationalizationMgr.h"
+#include "LMKeyText.h"
 #include "LMProgressIndicator.h"
 #include "LMSingleton.h"
 #include "LMTabHeaderView.h"
@@ -98,6 +100,7 @@ void LMFormatSelectionWndCtrl::popupSelection(const QRectF& rect, CompleteHandle
     d->reloadCustomIfReplaced();
     d->finishedSelecting = false;
     setGeometry(frameFromRect(rect));
+    d->focusSearchField();
     d->popupAgain();
 }
 
@@ -201,9 +204,14 @@ bool LMFormatSelectionWndCtrl::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
+// Keys the focused widget leaves alone arrive here from wherever the focus is.
 void LMFormatSelectionWndCtrl::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
         windowDidResignKey();
+        return;
+    }
+    if (d->switchTabByKey(event) || d->enterListByKey(event) || d->typeAnywhereByKey(event)) {
+        event->accept();
         return;
     }
     QWidget::keyPressEvent(event);
@@ -257,6 +265,7 @@ void LMFormatSelectionWndCtrlPrivate::windowDidLoad() {
                      });
     QObject::connect(q, &LMFormatSelectionWndCtrl::enableSearchChanged, field,
                      &QWidget::setEnabled);
+    QObject::connect(field, &QLineEdit::returnPressed, q, [this] { chooseFirstMatch(); });
     QObject::connect(q->lizationMgr(), &LMFormatInternationalizationMgr::languageDidChange, q,
                      [this] { retranslate(); });
     retranslate();
@@ -267,6 +276,13 @@ void LMFormatSelectionWndCtrlPrivate::retranslate() {
     const QString search = mgr->stringForKey(QStringLiteral("Search"));
     ui->searchField->setPlaceholderText(search);
     ui->searchField->setAccessibleName(search);
+    ui->searchField->setToolTip(
+        QStringList{mgr->stringForKey(QStringLiteral("Type anywhere to search")),
+                    mgr->stringForKey(QStringLiteral("Move to the list (%1)"))
+                        .arg(LMKeyText::names({QKeyCombination(Qt::Key_Down)})),
+                    mgr->stringForKey(QStringLiteral("Choose the first match (%1)"))
+                        .arg(LMKeyText::names({QKeyCombination(Qt::Key_Return)}))}
+            .join(QLatin1Char('\n')));
     q->setWindowTitle(mgr->stringForKey(QStringLiteral("Choose a format")));
     q->setAccessibleName(q->windowTitle());
     if (ui->loadPrgInd)
@@ -384,6 +400,9 @@ void LMFormatSelectionWndCtrlPrivate::setCurrentFormatNode(qsizetype index) {
         old->hide();
     next->show();
     ui->tabHeaderView->setIndexOfSelected(std::size_t(index));
+    // The list that had the focus may just have been hidden; typing goes on in
+    // the search field, which the switch emptied.
+    focusSearchField();
 }
 
 void LMFormatSelectionWndCtrlPrivate::tabHeaderViewSelectionDidChanged(LMTabHeaderView* header) {
@@ -441,7 +460,9 @@ void LMFormatSelectionWndCtrlPrivate::completeSelection(
 
 void LMFormatSelectionWndCtrlPrivate::takeTypedText(const QString& text) {
     QLineEdit* field = ui->searchField;
-    if (!field->isEnabled())
+    // A search does not start with a space: Space typed in a list or on the
+    // window goes to the field only once it holds something.
+    if (!field->isEnabled() || (field->text().isEmpty() && text.trimmed().isEmpty()))
         return;
     field->setFocus(Qt::OtherFocusReason);
     field->insert(text);
@@ -449,9 +470,74 @@ void LMFormatSelectionWndCtrlPrivate::takeTypedText(const QString& text) {
     q->onSearchAction();
 }
 
+void LMFormatSelectionWndCtrlPrivate::focusSearchField() {
+    if (ui->searchField->isEnabled())
+        ui->searchField->setFocus(Qt::OtherFocusReason);
+    else
+        q->setFocus(Qt::OtherFocusReason);
+}
+
+bool LMFormatSelectionWndCtrlPrivate::switchTabByKey(const QKeyEvent* event) {
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    if (!(modifiers & Qt::ControlModifier) || (modifiers & (Qt::AltModifier | Qt::MetaModifier)))
+        return false;
+    const bool shift = modifiers & Qt::ShiftModifier;
+    const int key = event->key();
+    // Ctrl+Shift+Tab arrives as Backtab from the window system.
+    const bool forward = (key == Qt::Key_Tab || key == Qt::Key_PageDown) && !shift;
+    const bool backward = (key == Qt::Key_Tab && shift) || key == Qt::Key_Backtab ||
+                          (key == Qt::Key_PageUp && !shift);
+    if (!forward && !backward)
+        return false;
+    const int step = forward ? 1 : -1;
+    LMTabHeaderView* strip = ui->tabHeaderView;
+    const auto count = qsizetype(strip->countOfTab());
+    if (count > 0) {
+        // Round the strip in both directions.
+        const qsizetype next = (qsizetype(strip->indexOfSelected()) + step + count) % count;
+        strip->selectTabByUser(std::size_t(next));
+    }
+    return true;
+}
+
+bool LMFormatSelectionWndCtrlPrivate::enterListByKey(const QKeyEvent* event) {
+    if (event->key() != Qt::Key_Down || !ui->searchField->hasFocus())
+        return false;
+    if (LMFormatCollectionView* list = currentChoiceList())
+        list->focusItemAtIndexPath(0);
+    return true;
+}
+
+bool LMFormatSelectionWndCtrlPrivate::typeAnywhereByKey(const QKeyEvent* event) {
+    const QString text = LMKeyText::typedText(*event);
+    if (text.isEmpty())
+        return false;
+    takeTypedText(text);
+    return true;
+}
+
+void LMFormatSelectionWndCtrlPrivate::chooseFirstMatch() {
+    LMFormatCollectionView* list = currentChoiceList();
+    if (list && list->numberOfItems() > 0)
+        list->chooseItemAtIndexPath(0);
+}
+
+LMFormatCollectionView* LMFormatSelectionWndCtrlPrivate::currentChoiceList() const {
+    const std::size_t selected = ui->tabHeaderView->indexOfSelected();
+    if (ui->tabHeaderView->countOfTab() == 0)
+        return nullptr;
+    if (selected == 0)
+        return m_recentFmtViewCtrl ? m_recentFmtViewCtrl->recentListView() : nullptr;
+    if (selected <= std::size_t(m_defFmtViewCtrls.size()))
+        return m_defFmtViewCtrls.at(qsizetype(selected) - 1)->fmtListView();
+    return m_customFmtViewCtrl ? m_customFmtViewCtrl->fmtListView() : nullptr;
+}
+
 void LMFormatSelectionWndCtrlPrivate::listenTo(LMFmtNodeViewCtrl* ctrl) {
     QObject::connect(ctrl, &LMFmtNodeViewCtrl::textTyped, q,
                      [this](const QString& text) { takeTypedText(text); });
+    QObject::connect(ctrl->fmtListView(), &LMFormatCollectionView::focusReleased, q,
+                     [this] { focusSearchField(); });
 }
 
 LMTabHeaderView* LMFormatSelectionWndCtrlPrivate::tabHeaderView() const {
@@ -476,6 +562,8 @@ LMFmtRecentViewCtrl* LMFormatSelectionWndCtrlPrivate::recentFmtViewCtrl() {
         m_recentFmtViewCtrl->setDelegate(this);
         QObject::connect(m_recentFmtViewCtrl, &LMFmtRecentViewCtrl::textTyped, q,
                          [this](const QString& text) { takeTypedText(text); });
+        QObject::connect(m_recentFmtViewCtrl->recentListView(),
+                         &LMFormatCollectionView::focusReleased, q, [this] { focusSearchField(); });
     }
     return m_recentFmtViewCtrl;
 }

@@ -15,9 +15,11 @@
 #include <memory>
 
 class LMFmtNodeViewCtrl;
+class LMFormatCollectionView;
 class LMFmtRecentViewCtrl;
 class LMProgressIndicator;
 class LMTabHeaderView;
+class QKeyEvent;
 class QLineEdit;
 namespace Ui {
 class LMFormatSelectionWndCtrl;
@@ -71,6 +73,9 @@ public:
     LMProgressIndicator* loadPrgInd() const;
     QLineEdit* searchField() const;
     QWidget* contentView() const;
+    // The list whose rows Enter chooses in the selected tab: the recent list,
+    // or the presets of a category or of "Custom"; null before the tabs exist.
+    LMFormatCollectionView* currentChoiceList() const;
 
 private:
     friend class LMFormatSelectionWndCtrl;
@@ -80,6 +85,16 @@ private:
     void popupAgain();
     void reloadCustomIfReplaced();
     void takeTypedText(const QString& text);
+    // The keyboard focus goes to the search field, or to the window itself
+    // while the field is disabled (Escape must still reach the window).
+    void focusSearchField();
+    // The window's keys, wherever the focus is; each says whether it handled
+    // the event.
+    bool switchTabByKey(const QKeyEvent* event);
+    bool enterListByKey(const QKeyEvent* event);
+    bool typeAnywhereByKey(const QKeyEvent* event);
+    // Enter in the search field: the first row of the selected tab's list.
+    void chooseFirstMatch();
     void retranslate();
     void listenTo(LMFmtNodeViewCtrl* ctrl);
     void layOutContent();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "LMTabButton.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 
 LMTabButton::LMTabButton(const QString& titleKey, QWidget* parent)
@@ -41,6 +42,17 @@ void LMTabButton::paintEvent(QPaintEvent* event) {
     (void)event;
     QPainter painter(this);
     m_cell.drawWithFrame(painter, QRectF(rect()), *this);
+}
+
+void LMTabButton::keyPressEvent(QKeyEvent* event) {
+    // A plain button moves only the focus with the arrows; on a tab they select
+    // the neighbour, which the strip does.
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (plain && (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right)) {
+        event->ignore();
+        return;
+    }
+    QPushButton::keyPressEvent(event);
 }
 
 void LMTabButton::nextCheckState() {

@@ -10,7 +10,8 @@
 
 // One tab of LMTabHeaderView: a push button drawn entirely by its
 // LMTabButtonCell. Its checked state marks the selected tab; only the strip
-// changes it, so a click never flips it by itself. Besides its cell it keeps
+// changes it, so a click never flips it by itself, and Left and Right go to the
+// strip, which moves the selection with them. Besides its cell it keeps
 // what the strip needs to know about it: its place (tag) and the localization
 // key of its title.
 class LMTabButton : public QPushButton {
@@ -33,6 +34,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void nextCheckState() override;
 
 private:

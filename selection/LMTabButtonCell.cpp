@@ -7,6 +7,7 @@
 #include <QFontMetricsF>
 #include <QIcon>
 #include <QPainter>
+#include <QPalette>
 #include <QPen>
 #include <QRectF>
 
@@ -21,6 +22,7 @@ constexpr qreal kVerticalMargin = 4.0;
 constexpr qreal kImageSpacing = 4.0;
 // Artwork is drawn at most this size; larger sources are scaled down to it.
 constexpr int kMaxImageExtent = 18;
+constexpr qreal kFocusRingWidth = 2.0;
 
 // The fills are fixed light colours, so the title stays dark whatever palette
 // the host application uses; a light palette text colour would vanish on them.
@@ -69,6 +71,24 @@ void LMTabButtonCell::drawWithFrame(QPainter& painter, const QRectF& frame,
                                     const QAbstractButton& view) const {
     drawBezelWithFrame(painter, frame, view.isChecked());
     drawInteriorWithFrame(painter, frame, view);
+    if (view.hasFocus())
+        drawFocusRingWithFrame(painter, frame, view.palette());
+}
+
+void LMTabButtonCell::drawFocusRingWithFrame(QPainter& painter, const QRectF& frame,
+                                             const QPalette& palette) const {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.setPen(QPen(focusRingColor(palette), kFocusRingWidth));
+    painter.setBrush(Qt::NoBrush);
+    // A point inside the border, so the tab's grey edge stays a line of its own.
+    const qreal inset = 2.0 + kFocusRingWidth / 2.0;
+    painter.drawRoundedRect(frame.adjusted(inset, inset, -inset, -inset), 2.0, 2.0);
+    painter.restore();
+}
+
+QColor LMTabButtonCell::focusRingColor(const QPalette& palette) {
+    return palette.color(QPalette::Active, QPalette::Highlight);
 }
 
 void LMTabButtonCell::drawBezelWithFrame(QPainter& painter, const QRectF& frame, bool on) const {

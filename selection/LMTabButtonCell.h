@@ -5,6 +5,7 @@
 
 class QAbstractButton;
 class QPainter;
+class QPalette;
 class QRectF;
 class QWidget;
 
@@ -28,7 +29,7 @@ public:
     void setBackgroundColor(const QColor& color);
 
     // The whole tab: the bezel for the button's checked state, then its image
-    // and title.
+    // and title, and the focus ring while the button has the focus.
     void drawWithFrame(QPainter& painter, const QRectF& frame, const QAbstractButton& view) const;
 
     // Background and border. A selected tab's rectangle is one point taller than
@@ -41,6 +42,14 @@ public:
     // are centred together in the frame.
     void drawInteriorWithFrame(QPainter& painter, const QRectF& frame,
                                const QAbstractButton& view) const;
+
+    // A two-point ring inside the frame in the highlight colour of palette,
+    // drawn over the tab while it has the keyboard focus. The tabs' fills are
+    // fixed light colours, on which the highlight of light and dark palettes
+    // alike stands out.
+    void drawFocusRingWithFrame(QPainter& painter, const QRectF& frame,
+                                const QPalette& palette) const;
+    static QColor focusRingColor(const QPalette& palette);
 
     // Tabs always show the arrow, whatever cursor the area around the strip
     // (the search field beside the tabs, for one) asks for.

@@ -2,14 +2,20 @@
 #include "LMTabHeaderView.h"
 
 #include "LMFormatInternationalizationMgr.h"
+#include "LMKeyText.h"
 #include "LMTabButton.h"
 #include "LMTabHeaderViewDelegate.h"
 
 #include <QIcon>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QPainter>
 #include <QPen>
 #include <QPushButton>
+#include <QStringList>
+
+#include <algorithm>
+#include <initializer_list>
 
 namespace {
 
@@ -22,13 +28,27 @@ LMTabButton* asTab(QPushButton* button) {
     return static_cast<LMTabButton*>(button);
 }
 
-// Title, tool tip and the name assistive tools read out are all the
-// translation of the tab's key.
-void showTitle(LMTabButton& tab, const QString& title) {
+// Under the title, the keys that switch tabs from anywhere in the popup, and
+// those of a focused tab.
+QString shortcutTips(const LMFormatInternationalizationMgr& mgr) {
+    const auto tip = [&mgr](const char* key, std::initializer_list<QKeyCombination> keys) {
+        return mgr.stringForKey(QString::fromUtf8(key)).arg(LMKeyText::names(keys));
+    };
+    return QStringList{
+        tip("Next tab (%1)", {Qt::CTRL | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageDown}),
+        tip("Previous tab (%1)", {Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageUp}),
+        tip("Move between tabs (%1)",
+            {QKeyCombination(Qt::Key_Left), QKeyCombination(Qt::Key_Right)})}
+        .join(QLatin1Char('\n'));
+}
+
+// Title and the name assistive tools read out are the translation of the tab's
+// key; the tool tip is the title over the keys.
+void showTitle(LMTabButton& tab, const QString& title, const LMFormatInternationalizationMgr& mgr) {
     tab.setText(title);
     // Titles are data (category names), not labels with keyboard mnemonics.
     tab.setShortcut(QKeySequence());
-    tab.setToolTip(title);
+    tab.setToolTip(title + QLatin1Char('\n') + shortcutTips(mgr));
     tab.setAccessibleName(title);
 }
 
@@ -172,7 +192,7 @@ LMTabButton* LMTabHeaderView::createButton(const QString& titleKey, const QIcon&
     auto* button = new LMTabButton(titleKey, this);
     button->setGeometry(frameOfTabButton(0));
     button->setIcon(image);
-    showTitle(*button, lizationMgr()->stringForKey(titleKey));
+    showTitle(*button, lizationMgr()->stringForKey(titleKey), *lizationMgr());
     connect(button, &QPushButton::clicked, this, [this, button] { tabButtonClicked(button); });
     return button;
 }
@@ -183,17 +203,44 @@ void LMTabHeaderView::tabButtonClicked(LMTabButton* sender) {
         sender->setChecked(true);
         return;
     }
+    selectTabByUser(tag);
+}
+
+void LMTabHeaderView::selectTabByUser(std::size_t index) {
+    if (index == d->indexOfSelected || index >= countOfTab())
+        return;
     if (d->delegate)
-        d->delegate->tabHeaderView(this, tag);
-    setIndexOfSelected(tag);
+        d->delegate->tabHeaderView(this, index);
+    setIndexOfSelected(index);
     if (d->delegate)
         d->delegate->tabHeaderViewSelectionDidChanged(this);
+}
+
+void LMTabHeaderView::keyPressEvent(QKeyEvent* event) {
+    const auto focused = std::find_if(d->tabButtons.cbegin(), d->tabButtons.cend(),
+                                      [](const QPushButton* tab) { return tab->hasFocus(); });
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    const int step = event->key() == Qt::Key_Left ? -1 : event->key() == Qt::Key_Right ? 1 : 0;
+    if (focused == d->tabButtons.cend() || !plain || step == 0) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    // The arrows stop at the ends, as in a tab bar; Ctrl+Tab is the way round.
+    const qsizetype target = (focused - d->tabButtons.cbegin()) + step;
+    if (target >= 0 && target < d->tabButtons.size()) {
+        QPushButton* button = d->tabButtons.at(target);
+        selectTabByUser(static_cast<std::size_t>(target));
+        // The delegate may have put the focus elsewhere (the search field); the
+        // arrows keep it on the tabs, so that the next arrow goes on from here.
+        button->setFocus(Qt::TabFocusReason);
+    }
+    event->accept();
 }
 
 void LMTabHeaderView::languageDidChange() {
     for (QPushButton* button : std::as_const(d->tabButtons)) {
         LMTabButton* tab = asTab(button);
-        showTitle(*tab, lizationMgr()->stringForKey(tab->titleKey()));
+        showTitle(*tab, lizationMgr()->stringForKey(tab->titleKey()), *lizationMgr());
         // A change to or from French widens or narrows the sixth place; each
         // tab keeps its own place, so a gap left by a removal stays.
         tab->setGeometry(frameOfTabButton(tab->tag()));

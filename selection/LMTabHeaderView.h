@@ -21,7 +21,7 @@ class QString;
 // LMTabButtonCell; a one-point rule runs along that edge under them. The strip
 // keeps which tab is selected and tells its delegate when the user picks another
 // one. Titles are localization keys, shown in the current language and
-// re-translated when it changes.
+// re-translated when it changes; a tab's tool tip adds the keys that switch tabs.
 //
 // Indexes follow the buttons' order. Removing a tab neither moves the others nor
 // renumbers them (a gap stays until the next addition or insertion arranges the
@@ -64,6 +64,10 @@ public:
     // Selects the tab at index without telling the delegate; an index at or past
     // the end changes nothing.
     void setIndexOfSelected(std::size_t index);
+    // Selects the tab at index as a click on it does, telling the delegate
+    // before and after; the selected tab or an index past the end changes
+    // nothing.
+    void selectTabByUser(std::size_t index);
 
     // Where tab index stands in the strip's coordinates.
     QRect frameOfTabButton(std::size_t index) const;
@@ -76,6 +80,8 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    // Left and Right on a focused tab select its neighbour, which takes the focus.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     LMTabButton* createButton(const QString& titleKey, const QIcon& image);

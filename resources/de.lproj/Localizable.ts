@@ -323,5 +323,37 @@
         <source>Names are limited to %1 characters.</source>
         <translation>Namen sind auf %1 Zeichen begrenzt.</translation>
     </message>
+    <message>
+        <source>Next tab (%1)</source>
+        <translation>Nächster Tab (%1)</translation>
+    </message>
+    <message>
+        <source>Previous tab (%1)</source>
+        <translation>Vorheriger Tab (%1)</translation>
+    </message>
+    <message>
+        <source>Move between tabs (%1)</source>
+        <translation>Zwischen Tabs wechseln (%1)</translation>
+    </message>
+    <message>
+        <source>Type anywhere to search</source>
+        <translation>Einfach lostippen, um zu suchen</translation>
+    </message>
+    <message>
+        <source>Move to the list (%1)</source>
+        <translation>Zur Liste wechseln (%1)</translation>
+    </message>
+    <message>
+        <source>Choose the first match (%1)</source>
+        <translation>Ersten Treffer wählen (%1)</translation>
+    </message>
+    <message>
+        <source>Edit (%1)</source>
+        <translation>Bearbeiten (%1)</translation>
+    </message>
+    <message>
+        <source>Remove (%1)</source>
+        <translation>Entfernen (%1)</translation>
+    </message>
 </context>
 </TS>

@@ -323,5 +323,37 @@
         <source>Names are limited to %1 characters.</source>
         <translation>Names are limited to %1 characters.</translation>
     </message>
+    <message>
+        <source>Next tab (%1)</source>
+        <translation>Next tab (%1)</translation>
+    </message>
+    <message>
+        <source>Previous tab (%1)</source>
+        <translation>Previous tab (%1)</translation>
+    </message>
+    <message>
+        <source>Move between tabs (%1)</source>
+        <translation>Move between tabs (%1)</translation>
+    </message>
+    <message>
+        <source>Type anywhere to search</source>
+        <translation>Type anywhere to search</translation>
+    </message>
+    <message>
+        <source>Move to the list (%1)</source>
+        <translation>Move to the list (%1)</translation>
+    </message>
+    <message>
+        <source>Choose the first match (%1)</source>
+        <translation>Choose the first match (%1)</translation>
+    </message>
+    <message>
+        <source>Edit (%1)</source>
+        <translation>Edit (%1)</translation>
+    </message>
+    <message>
+        <source>Remove (%1)</source>
+        <translation>Remove (%1)</translation>
+    </message>
 </context>
 </TS>

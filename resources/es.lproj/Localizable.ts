@@ -323,5 +323,37 @@
         <source>Names are limited to %1 characters.</source>
         <translation>Los nombres están limitados a %1 caracteres.</translation>
     </message>
+    <message>
+        <source>Next tab (%1)</source>
+        <translation>Pestaña siguiente (%1)</translation>
+    </message>
+    <message>
+        <source>Previous tab (%1)</source>
+        <translation>Pestaña anterior (%1)</translation>
+    </message>
+    <message>
+        <source>Move between tabs (%1)</source>
+        <translation>Moverse entre pestañas (%1)</translation>
+    </message>
+    <message>
+        <source>Type anywhere to search</source>
+        <translation>Escribe en cualquier lugar para buscar</translation>
+    </message>
+    <message>
+        <source>Move to the list (%1)</source>
+        <translation>Ir a la lista (%1)</translation>
+    </message>
+    <message>
+        <source>Choose the first match (%1)</source>
+        <translation>Elegir la primera coincidencia (%1)</translation>
+    </message>
+    <message>
+        <source>Edit (%1)</source>
+        <translation>Editar (%1)</translation>
+    </message>
+    <message>
+        <source>Remove (%1)</source>
+        <translation>Eliminar (%1)</translation>
+    </message>
 </context>
 </TS>

@@ -323,5 +323,37 @@
         <source>Names are limited to %1 characters.</source>
         <translation>Les noms sont limités à %1 caractères.</translation>
     </message>
+    <message>
+        <source>Next tab (%1)</source>
+        <translation>Onglet suivant (%1)</translation>
+    </message>
+    <message>
+        <source>Previous tab (%1)</source>
+        <translation>Onglet précédent (%1)</translation>
+    </message>
+    <message>
+        <source>Move between tabs (%1)</source>
+        <translation>Passer d’un onglet à l’autre (%1)</translation>
+    </message>
+    <message>
+        <source>Type anywhere to search</source>
+        <translation>Tapez n’importe où pour rechercher</translation>
+    </message>
+    <message>
+        <source>Move to the list (%1)</source>
+        <translation>Aller à la liste (%1)</translation>
+    </message>
+    <message>
+        <source>Choose the first match (%1)</source>
+        <translation>Choisir le premier résultat (%1)</translation>
+    </message>
+    <message>
+        <source>Edit (%1)</source>
+        <translation>Modifier (%1)</translation>
+    </message>
+    <message>
+        <source>Remove (%1)</source>
+        <translation>Supprimer (%1)</translation>
+    </message>
 </context>
 </TS>

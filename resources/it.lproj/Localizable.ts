@@ -323,5 +323,37 @@
         <source>Names are limited to %1 characters.</source>
         <translation>I nomi sono limitati a %1 caratteri.</translation>
     </message>
+    <message>
+        <source>Next tab (%1)</source>
+        <translation>Scheda successiva (%1)</translation>
+    </message>
+    <message>
+        <source>Previous tab (%1)</source>
+        <translation>Scheda precedente (%1)</translation>
+    </message>
+    <message>
+        <source>Move between tabs (%1)</source>
+        <translation>Spostarsi tra le schede (%1)</translation>
+    </message>
+    <message>
+        <source>Type anywhere to search</source>
+        <translation>Digita ovunque per cercare</translation>
+    </message>
+    <message>
+        <source>Move to the list (%1)</source>
+        <translation>Vai all’elenco (%1)</translation>
+    </message>
+    <message>
+        <source>Choose the first match (%1)</source>
+        <translation>Scegli la prima corrispondenza (%1)</translation>
+    </message>
+    <message>
+        <source>Edit (%1)</source>
+        <translation>Modifica (%1)</translation>
+    </message>
+    <message>
+        <source>Remove (%1)</source>
+        <translation>Rimuovi (%1)</translation>
+    </message>
 </context>
 </TS>

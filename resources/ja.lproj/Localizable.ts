@@ -323,5 +323,37 @@
         <source>Names are limited to %1 characters.</source>
         <translation>名前は%1文字までです。</translation>
     </message>
+    <message>
+        <source>Next tab (%1)</source>
+        <translation>次のタブ（%1）</translation>
+    </message>
+    <message>
+        <source>Previous tab (%1)</source>
+        <translation>前のタブ（%1）</translation>
+    </message>
+    <message>
+        <source>Move between tabs (%1)</source>
+        <translation>タブ間を移動（%1）</translation>
+    </message>
+    <message>
+        <source>Type anywhere to search</source>
+        <translation>どこで入力しても検索できます</translation>
+    </message>
+    <message>
+        <source>Move to the list (%1)</source>
+        <translation>リストに移動（%1）</translation>
+    </message>
+    <message>
+        <source>Choose the first match (%1)</source>
+        <translation>最初の一致項目を選択（%1）</translation>
+    </message>
+    <message>
+        <source>Edit (%1)</source>
+        <translation>編集（%1）</translation>
+    </message>
+    <message>
+        <source>Remove (%1)</source>
+        <translation>削除（%1）</translation>
+    </message>
 </context>
 </TS>

@@ -323,5 +323,37 @@
         <source>Names are limited to %1 characters.</source>
         <translation>Os nomes são limitados a %1 caracteres.</translation>
     </message>
+    <message>
+        <source>Next tab (%1)</source>
+        <translation>Próxima aba (%1)</translation>
+    </message>
+    <message>
+        <source>Previous tab (%1)</source>
+        <translation>Aba anterior (%1)</translation>
+    </message>
+    <message>
+        <source>Move between tabs (%1)</source>
+        <translation>Mover entre abas (%1)</translation>
+    </message>
+    <message>
+        <source>Type anywhere to search</source>
+        <translation>Digite em qualquer lugar para pesquisar</translation>
+    </message>
+    <message>
+        <source>Move to the list (%1)</source>
+        <translation>Ir para a lista (%1)</translation>
+    </message>
+    <message>
+        <source>Choose the first match (%1)</source>
+        <translation>Escolher o primeiro resultado (%1)</translation>
+    </message>
+    <message>
+        <source>Edit (%1)</source>
+        <translation>Editar (%1)</translation>
+    </message>
+    <message>
+        <source>Remove (%1)</source>
+        <translation>Remover (%1)</translation>
+    </message>
 </context>
 </TS>

@@ -323,5 +323,37 @@
         <source>Names are limited to %1 characters.</source>
         <translation>名称最多 %1 个字符。</translation>
     </message>
+    <message>
+        <source>Next tab (%1)</source>
+        <translation>下一个标签页（%1）</translation>
+    </message>
+    <message>
+        <source>Previous tab (%1)</source>
+        <translation>上一个标签页（%1）</translation>
+    </message>
+    <message>
+        <source>Move between tabs (%1)</source>
+        <translation>在标签页之间移动（%1）</translation>
+    </message>
+    <message>
+        <source>Type anywhere to search</source>
+        <translation>在任意位置输入即可搜索</translation>
+    </message>
+    <message>
+        <source>Move to the list (%1)</source>
+        <translation>移到列表（%1）</translation>
+    </message>
+    <message>
+        <source>Choose the first match (%1)</source>
+        <translation>选择第一个匹配项（%1）</translation>
+    </message>
+    <message>
+        <source>Edit (%1)</source>
+        <translation>编辑（%1）</translation>
+    </message>
+    <message>
+        <source>Remove (%1)</source>
+        <translation>移除（%1）</translation>
+    </message>
 </context>
 </TS>

@@ -644,3 +644,53 @@ TEST_F(LMFormatEditingWndCtrlTest, SharedIsOneEditorAndTheAppNameIsTheApplicatio
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Lumeran Converter"));
     EXPECT_EQ(LMFormatEditingWndCtrlPrivate::getAppName(), QStringLiteral("Lumeran Converter"));
 }
+
+TEST_F(LMFormatEditingWndCtrlTest, TheVisibleCancelButtonEndsTheSessionWithoutSaving) {
+    const auto preset = cataloguePreset(mp4, "High Quality");
+    const auto before = preset->Clone();
+    const int closedBefore = editor.willCloseCount;
+    bool cancelShown = false;
+    const bool saved = edit(preset, mp4, [&] {
+        QPushButton* cancel = button("btnCancel");
+        ASSERT_NE(cancel, nullptr);
+        cancelShown = cancel->isVisible() && cancel->isEnabled() &&
+                      cancel->text() == QStringLiteral("Cancel");
+        choose("cmbResolution", QStringLiteral("1280x720"));
+        click("btnCancel");
+        EXPECT_FALSE(editor.isVisible());
+    });
+    EXPECT_TRUE(cancelShown);
+    EXPECT_FALSE(saved);
+    EXPECT_EQ(editor.willCloseCount - closedBefore, 1);
+    EXPECT_TRUE(preset->IsEqualTo(before));
+    EXPECT_TRUE(ILMFmtPresetDataSource::Shared()->GetRecentList().empty());
+}
+
+TEST_F(LMFormatEditingWndCtrlTest, TheCancelButtonFollowsTheLanguage) {
+    LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageGerman);
+    ASSERT_NE(Localized("Cancel"), QStringLiteral("Cancel"));
+    ASSERT_NE(button("btnCancel"), nullptr);
+    EXPECT_EQ(button("btnCancel")->text(), Localized("Cancel"));
+}
+
+TEST_F(LMFormatEditingWndCtrlTest, TheNamePromptShowsTheApplicationsNameOnce) {
+    const QString appName = QStringLiteral("Lumeran Converter");
+    QGuiApplication::setApplicationDisplayName(appName);
+    int shown = -1;
+    QString message;
+    edit(cataloguePreset(mp4, "High Quality"), mp4, [&] {
+        click("btnSaveNewPreset");
+        ASSERT_TRUE(prompt());
+        // Everything the prompt shows in words: its title bar and its labels.
+        shown = int(prompt()->windowTitle().count(appName));
+        for (const QLabel* label : prompt()->findChildren<QLabel*>()) {
+            if (label->isVisible())
+                shown += int(label->text().count(appName));
+        }
+        message = prompt()->messageText();
+        QTest::mouseClick(promptButton("btnCancel"), Qt::LeftButton);
+    });
+    QGuiApplication::setApplicationDisplayName(QString());
+    EXPECT_EQ(shown, 1);
+    EXPECT_EQ(message, Localized("Save as New Preset"));
+}

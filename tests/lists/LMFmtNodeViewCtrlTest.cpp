@@ -408,3 +408,123 @@ TEST_F(LMFmtNodeViewCtrlTest, AListOfTenThousandPresetsMakesCellsOnlyForVisibleR
     EXPECT_EQ(formats()->model()->index(5000, 0).data().toString(), QStringLiteral("Preset 5000"));
     EXPECT_EQ(formats()->itemAtIndex(5000), nullptr);
 }
+
+namespace {
+
+// The ctrl shown and active, so that the focus it is given is real.
+bool ShowActive(LMFmtNodeViewCtrl* ctrl) {
+    if (!ShowAndWait(ctrl))
+        return false;
+    ctrl->activateWindow();
+    return QTest::qWaitForWindowActive(ctrl);
+}
+
+} // namespace
+
+TEST_F(LMFmtNodeViewCtrlTest, F2CtrlEAndTheMenuKeyAskToEditTheCurrentPresetOfACategory) {
+    const auto category = MakeCategory();
+    ctrl->loadFormatNode(category);
+    ASSERT_TRUE(ShowActive(ctrl.get()));
+    ClickRow(nodes(), 0);
+    QTest::keyClick(nodes(), Qt::Key_Right);
+    QTest::keyClick(formats(), Qt::Key_Down);
+    ASSERT_EQ(formats()->currentIndex().row(), 1);
+
+    QTest::keyClick(formats(), Qt::Key_F2);
+    QTest::keyClick(formats(), Qt::Key_E, Qt::ControlModifier);
+    QTest::keyClick(formats(), Qt::Key_Menu);
+    ASSERT_EQ(delegate.edits.size(), 3u);
+    for (const auto& edit : delegate.edits) {
+        EXPECT_EQ(edit.preset, category->ChildAt(0)->FormatPresetAt(1));
+        EXPECT_EQ(edit.node, category->ChildAt(0));
+    }
+    EXPECT_TRUE(delegate.selections.empty());
+    // Ctrl+E without Ctrl is typing.
+    QSignalSpy typed(ctrl.get(), &LMFmtNodeViewCtrl::textTyped);
+    QTest::keyClick(formats(), Qt::Key_E);
+    EXPECT_EQ(delegate.edits.size(), 3u);
+    EXPECT_EQ(typed.count(), 1);
+}
+
+TEST_F(LMFmtNodeViewCtrlTest, TheEditKeysAskNothingWhereEditingIsNotAllowed) {
+    LoadCustomTab();
+    ASSERT_TRUE(ShowActive(ctrl.get()));
+    ClickRow(nodes(), 0);
+    for (LMFormatCollectionView* list : {nodes(), formats()}) {
+        if (list == formats())
+            QTest::keyClick(nodes(), Qt::Key_Right);
+        ASSERT_TRUE(list->currentIndex().isValid());
+        QTest::keyClick(list, Qt::Key_F2);
+        QTest::keyClick(list, Qt::Key_E, Qt::ControlModifier);
+        QTest::keyClick(list, Qt::Key_Menu);
+    }
+    EXPECT_TRUE(delegate.edits.empty());
+}
+
+TEST_F(LMFmtNodeViewCtrlTest, RemovingTheCurrentPresetByKeyLeavesTheFocusOnTheRowAfterIt) {
+    LoadCustomTab();
+    ASSERT_TRUE(ShowActive(ctrl.get()));
+    ClickRow(nodes(), 0);
+    QTest::keyClick(nodes(), Qt::Key_Right);
+    ASSERT_TRUE(formats()->hasFocus());
+    ASSERT_EQ(formats()->numberOfItems(), 3);
+    const QString third = Titles(formats()).at(2);
+
+    // The middle row goes: the row after it, not the one before, is current.
+    QTest::keyClick(formats(), Qt::Key_Down);
+    QTest::keyClick(formats(), Qt::Key_Delete);
+    EXPECT_TRUE(formats()->hasFocus());
+    EXPECT_EQ(formats()->currentIndex().row(), 1);
+    EXPECT_EQ(formats()->currentIndex().data().toString(), third);
+
+    // The last row gone, the new last row is current.
+    QTest::keyClick(formats(), Qt::Key_End);
+    QTest::keyClick(formats(), Qt::Key_Delete);
+    ASSERT_EQ(formats()->numberOfItems(), 1);
+    EXPECT_TRUE(formats()->hasFocus());
+    EXPECT_EQ(formats()->currentIndex().row(), 0);
+}
+
+TEST_F(LMFmtNodeViewCtrlTest, RemovingTheLastPresetOfTheListReleasesTheFocus) {
+    auto source = ILMFmtPresetDataSource::Shared();
+    auto format = MakeFormat("MP4", {"MP4 Only"});
+    source->AddCustomPreset(format->FormatPresetAt(0), format);
+    source->SaveCustomList();
+    ctrl->setRemovable(true);
+    ctrl->loadFormatNode(source->GetCustomList());
+    ASSERT_TRUE(ShowActive(ctrl.get()));
+    QSignalSpy released(formats(), &LMFormatCollectionView::focusReleased);
+    ClickRow(nodes(), 0);
+    QTest::keyClick(nodes(), Qt::Key_Right);
+    ASSERT_TRUE(formats()->hasFocus());
+
+    QTest::keyClick(formats(), Qt::Key_Delete);
+    EXPECT_EQ(formats()->numberOfItems(), 0);
+    EXPECT_EQ(released.count(), 1);
+}
+
+// The node list's current row is always selected; the ring still shows where
+// the keys act, in the palette's highlight, on light and dark bases alike.
+TEST_F(LMFmtNodeViewCtrlTest, TheFocusedListsCurrentRowShowsAFocusRingEvenWhenSelected) {
+    ctrl->loadFormatNode(MakeCategory());
+    ASSERT_TRUE(ShowActive(ctrl.get()));
+    ClickRow(nodes(), 1);
+    ASSERT_TRUE(nodes()->hasFocus());
+    ASSERT_EQ(nodes()->selectionIndexPaths(), QList<int>{1});
+    const QRect row = nodes()->visualRect(nodes()->model()->index(1, 0));
+    const QPoint onRing(row.left() + 4, row.center().y());
+    const QColor ring(200, 30, 40);
+
+    for (const QColor& base : {QColor(255, 255, 255), QColor(30, 30, 30)}) {
+        QPalette palette = ctrl->palette();
+        palette.setColor(QPalette::Base, base);
+        palette.setColor(QPalette::Highlight, ring);
+        ctrl->setPalette(palette);
+        EXPECT_EQ(nodes()->viewport()->grab().toImage().pixelColor(onRing), ring)
+            << base.name().toStdString();
+    }
+    // Elsewhere the focus, no ring.
+    QTest::keyClick(nodes(), Qt::Key_Right);
+    ASSERT_TRUE(formats()->hasFocus());
+    EXPECT_NE(nodes()->viewport()->grab().toImage().pixelColor(onRing), ring);
+}

@@ -157,17 +157,17 @@ TEST_F(LMFormatDataViewTest, TheListPaintsTheCellBackgroundOverItsRow) {
     EXPECT_NE(pixel(plainRow), Highlight());
 }
 
-TEST_F(LMFormatDataViewTest, ButtonsAreNamedInTheCurrentLanguage) {
+TEST_F(LMFormatDataViewTest, ButtonsAreNamedWithTheirKeysInTheCurrentLanguage) {
     LMFormatDataView view;
     EXPECT_EQ(view.actionButtonToolTip(LMFormatDataView::ActionButton::Edit),
-              QStringLiteral("Edit"));
+              QStringLiteral("Edit (F2, Ctrl+E, Menu)"));
     EXPECT_EQ(view.actionButtonToolTip(LMFormatDataView::ActionButton::Remove),
-              QStringLiteral("Remove"));
+              QStringLiteral("Remove (Del)"));
     LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageFrench);
     EXPECT_EQ(view.actionButtonToolTip(LMFormatDataView::ActionButton::Edit),
-              QStringLiteral("Modifier"));
+              QStringLiteral("Modifier (F2, Ctrl+E, Menu)"));
     EXPECT_EQ(view.actionButtonToolTip(LMFormatDataView::ActionButton::Remove),
-              QStringLiteral("Supprimer"));
+              QStringLiteral("Supprimer (Del)"));
 }
 
 TEST_F(LMFormatDataViewTest, ResetMouseStateSendsNoMessageAndTheBorderColourIsLightGrey) {

@@ -164,6 +164,52 @@ protected:
         QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, rect.topLeft() + button.center());
     }
 
+    // Shows the popup and waits until it is the active window, so that keys
+    // typed reach its focus widget as they would from the keyboard.
+    void PopupActive() {
+        Popup();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(ctrl));
+    }
+
+    // Keys typed at the popup: the window system hands them to the focus
+    // widget, and what that widget leaves goes up to the window.
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(ctrl->windowHandle(), key, modifiers);
+    }
+    void Type(const QString& text) {
+        for (const QChar c : text)
+            QTest::keyClick(ctrl->windowHandle(), c.toLatin1());
+    }
+
+    // Typing at the window lands in the search field, which has the focus.
+    void ExpectTypingReachesTheSearchField() {
+        Type(QStringLiteral("hd"));
+        EXPECT_EQ(d->searchField()->text(), QStringLiteral("hd"));
+        EXPECT_EQ(ctrl->searchText(), QStringLiteral("hd"));
+        EXPECT_TRUE(d->searchField()->hasFocus());
+    }
+
+    // Opens the popup on the first category and types text at it; the list of
+    // that category's presets.
+    LMFormatCollectionView* SearchFirstCategory(const QString& text) {
+        LoadDefault();
+        Popup();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(ctrl));
+        Type(text);
+        return d->defFmtViewCtrls().first()->fmtListView();
+    }
+
+    // The title of the preset of the one completion; empty for anything else.
+    QString OnlyChosenTitle() const {
+        if (completions.size() != 1 || !completions[0].preset)
+            return {};
+        return QString::fromStdString(completions[0].preset->Title());
+    }
+
+    LMFormatCollectionView* FirstCategoryNodes() const {
+        return d->defFmtViewCtrls().first()->nodeListView();
+    }
+
     static QComboBox* EditorBox(const char* name) {
         return LMFormatEditingWndCtrl::shared()->findChild<QComboBox*>(QLatin1StringView(name));
     }
@@ -532,4 +578,197 @@ TEST_F(LMFormatSelectionWndCtrlTest, ANewCustomPresetFromTheEditorReloadsTheCust
     EXPECT_EQ(custom->fmtListView()->model()->rowCount(), 1);
     // The editor was cancelled in the end: the popup is back.
     EXPECT_TRUE(ctrl->isVisible());
+}
+
+// ---- Focus and keys -------------------------------------------------------------
+
+TEST_F(LMFormatSelectionWndCtrlTest, OnOpenTheSearchFieldHasTheFocusAndTypingSearches) {
+    LoadDefault();
+    PopupActive();
+    ExpectTypingReachesTheSearchField();
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest,
+       OpenedDuringTheLoadTheSearchFieldTakesTheFocusOnceTheTabsAppear) {
+    PopupActive();
+    ASSERT_FALSE(d->searchField()->isEnabled());
+    // Until then the window holds the focus, so Escape still reaches it.
+    EXPECT_EQ(QApplication::focusWidget(), ctrl);
+
+    LoadDefault();
+    ExpectTypingReachesTheSearchField();
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, AfterClickingAListThenATabTypingReachesTheSearchField) {
+    LoadDefault();
+    PopupActive();
+    ClickRow(FirstCategoryNodes(), 1);
+    ASSERT_TRUE(FirstCategoryNodes()->hasFocus());
+    ClickTab(2);
+    ASSERT_EQ(d->tabHeaderView()->indexOfSelected(), 2u);
+
+    ExpectTypingReachesTheSearchField();
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, CtrlTabAndCtrlPageKeysSwitchTabsRoundTheStrip) {
+    LoadDefault();
+    PopupActive();
+    const std::size_t last = d->tabHeaderView()->countOfTab() - 1;
+    ASSERT_EQ(d->tabHeaderView()->indexOfSelected(), 1u);
+
+    Press(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(d->tabHeaderView()->indexOfSelected(), 2u);
+    Press(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(d->tabHeaderView()->indexOfSelected(), 3u);
+    EXPECT_EQ(d->currentFormatNodeView(), d->defFmtViewCtrls().at(2)->view());
+    Press(Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(d->tabHeaderView()->indexOfSelected(), 2u);
+    // What an X server sends for Ctrl+Shift+Tab.
+    Press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(d->tabHeaderView()->indexOfSelected(), 1u);
+    Press(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(d->tabHeaderView()->indexOfSelected(), 0u);
+    Press(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(d->tabHeaderView()->indexOfSelected(), last);
+    EXPECT_EQ(d->currentFormatNodeView(), d->customFmtViewCtrl()->view());
+    Press(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(d->tabHeaderView()->indexOfSelected(), 0u);
+    EXPECT_TRUE(d->searchField()->hasFocus());
+    EXPECT_EQ(ctrl->searchText(), QString());
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, CtrlPageDownInAListSwitchesTabsRatherThanScrolling) {
+    LoadDefault();
+    PopupActive();
+    ClickRow(FirstCategoryNodes(), 0);
+    ASSERT_TRUE(FirstCategoryNodes()->hasFocus());
+    Press(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(d->tabHeaderView()->indexOfSelected(), 2u);
+    EXPECT_EQ(FirstCategoryNodes()->selectionIndexPaths(), QList<int>{0});
+    EXPECT_TRUE(d->searchField()->hasFocus());
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, LeftAndRightOnAFocusedTabSelectTheNeighbourAndKeepTheFocus) {
+    LoadDefault();
+    PopupActive();
+    const QList<QPushButton*>& tabs = d->tabHeaderView()->tabButtons();
+    tabs.at(1)->setFocus(Qt::TabFocusReason);
+
+    Press(Qt::Key_Right);
+    EXPECT_EQ(d->tabHeaderView()->indexOfSelected(), 2u);
+    EXPECT_EQ(d->currentFormatNodeView(), d->defFmtViewCtrls().at(1)->view());
+    EXPECT_TRUE(tabs.at(2)->hasFocus());
+    Press(Qt::Key_Left);
+    Press(Qt::Key_Left);
+    EXPECT_EQ(d->tabHeaderView()->indexOfSelected(), 0u);
+    EXPECT_TRUE(tabs.at(0)->hasFocus());
+    // The arrows stop at the ends.
+    Press(Qt::Key_Left);
+    EXPECT_EQ(d->tabHeaderView()->indexOfSelected(), 0u);
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, TypingOnAFocusedTabGoesToTheSearchField) {
+    LoadDefault();
+    PopupActive();
+    d->tabHeaderView()->tabButtons().at(2)->setFocus(Qt::TabFocusReason);
+    ExpectTypingReachesTheSearchField();
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, SpaceInAListReachesTheSearchFieldOnlyOnceItHoldsText) {
+    LoadDefault();
+    PopupActive();
+    ClickRow(FirstCategoryNodes(), 0);
+    Press(Qt::Key_Space);
+    EXPECT_EQ(d->searchField()->text(), QString());
+    EXPECT_EQ(ctrl->searchText(), QString());
+
+    Type(QStringLiteral("hd"));
+    ASSERT_EQ(d->searchField()->text(), QStringLiteral("hd"));
+    ClickRow(FirstCategoryNodes(), 0);
+    ASSERT_TRUE(FirstCategoryNodes()->hasFocus());
+    Press(Qt::Key_Space);
+    EXPECT_EQ(d->searchField()->text(), QStringLiteral("hd "));
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, DownInTheSearchFieldMovesToTheFirstRowAndEnterChoosesIt) {
+    LMFormatCollectionView* presets = SearchFirstCategory(QStringLiteral("hd"));
+    ASSERT_GT(presets->numberOfItems(), 1);
+    const QString second = Titles(presets).at(1);
+
+    Press(Qt::Key_Down);
+    EXPECT_TRUE(presets->hasFocus());
+    EXPECT_EQ(presets->currentIndex().row(), 0);
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(OnlyChosenTitle(), second);
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, EnterInTheSearchFieldChoosesTheFirstMatch) {
+    LMFormatCollectionView* presets = SearchFirstCategory(QStringLiteral("720"));
+    ASSERT_GT(presets->numberOfItems(), 0);
+    const QString first = Titles(presets).first();
+
+    Press(Qt::Key_Return);
+    EXPECT_FALSE(ctrl->isVisible());
+    EXPECT_EQ(OnlyChosenTitle(), first);
+    EXPECT_TRUE(first.contains(QStringLiteral("720"))) << first.toStdString();
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, F2OnAPresetOpensTheEditorOnIt) {
+    LoadDefault();
+    PopupActive();
+    LMFormatCollectionView* presets = d->defFmtViewCtrls().first()->fmtListView();
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Down);
+    ASSERT_EQ(presets->currentIndex().row(), 1);
+    QString edited;
+    QTimer::singleShot(0, LMFormatEditingWndCtrl::shared(), [&edited] {
+        edited = LMFormatEditingWndCtrl::shared()->windowTitle();
+        LMFormatEditingWndCtrl::shared()->reject();
+    });
+    Press(Qt::Key_F2);
+    EXPECT_TRUE(edited.endsWith(Titles(presets).at(1))) << edited.toStdString();
+    // Cancelled: the popup is back and nothing was chosen.
+    EXPECT_TRUE(ctrl->isVisible());
+    EXPECT_TRUE(completions.empty());
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest,
+       DeletingRecentEntriesMovesTheFocusToTheNextRowThenTheSearchField) {
+    TestSupport::LoadDefaultCatalogueIntoSharedDataSource();
+    auto source = ILMFmtPresetDataSource::Shared();
+    auto format = source->GetExternalFormatPresets()->ChildAt(0)->ChildAt(0);
+    source->PushRecentItem(format->FormatPresetAt(1), format);
+    source->PushRecentItem(format->FormatPresetAt(0), format);
+    ctrl->loadExternalDataInMainThread();
+    PopupActive();
+    LMFormatCollectionView* recent = d->recentFmtViewCtrl()->recentListView();
+    ASSERT_EQ(recent->numberOfItems(), 2);
+    const QString second = Titles(recent).at(1);
+
+    Press(Qt::Key_Down);
+    ASSERT_TRUE(recent->hasFocus());
+    Press(Qt::Key_Delete);
+    ASSERT_EQ(recent->numberOfItems(), 1);
+    EXPECT_TRUE(recent->hasFocus());
+    EXPECT_EQ(recent->currentIndex().row(), 0);
+    EXPECT_EQ(Titles(recent).first(), second);
+
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(recent->numberOfItems(), 0);
+    EXPECT_TRUE(d->searchField()->hasFocus());
+    EXPECT_TRUE(source->GetRecentList().empty());
+    EXPECT_TRUE(completions.empty());
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, TheSearchFieldsToolTipNamesItsKeysInTheCurrentLanguage) {
+    LoadDefault();
+    EXPECT_TRUE(d->searchField()->toolTip().contains(QStringLiteral("Down")))
+        << d->searchField()->toolTip().toStdString();
+    EXPECT_TRUE(d->searchField()->toolTip().contains(QStringLiteral("Return")));
+    LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageGerman);
+    EXPECT_TRUE(d->searchField()->toolTip().startsWith(
+        LMFormatInternationalizationMgr::sharedObject()->stringForKey(
+            QStringLiteral("Type anywhere to search"))));
+    EXPECT_FALSE(d->searchField()->toolTip().contains(QStringLiteral("Type anywhere")));
 }

@@ -92,6 +92,17 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(strip.get()));
     }
 
+    // Shown and active, the first tab's neighbour given the focus with Right
+    // from the first tab.
+    void focusSecondTabByKey() {
+        showStrip();
+        strip->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(strip.get()));
+        strip->tabButtons().at(0)->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(strip->tabButtons().at(0), Qt::Key_Right);
+        ASSERT_TRUE(strip->tabButtons().at(1)->hasFocus());
+    }
+
     void click(std::size_t index) {
         QTest::mouseClick(strip->tabButtons().at(static_cast<qsizetype>(index)), Qt::LeftButton);
     }
@@ -375,7 +386,10 @@ TEST_F(LMTabHeaderViewTest, TitlesFollowALanguageChange) {
     LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageFrench);
 
     EXPECT_EQ(recent->text(), QStringLiteral("Récents"));
-    EXPECT_EQ(recent->toolTip(), QStringLiteral("Récents"));
+    // The tool tip's first line is the title; the keys follow it.
+    EXPECT_EQ(recent->toolTip().section(QLatin1Char('\n'), 0, 0), QStringLiteral("Récents"));
+    EXPECT_TRUE(recent->toolTip().contains(QStringLiteral("Onglet suivant")))
+        << recent->toolTip().toStdString();
     EXPECT_EQ(recent->accessibleName(), QStringLiteral("Récents"));
     EXPECT_EQ(strip->tabButtons().at(1)->text(), QStringLiteral("Personnalisés"));
 }
@@ -384,7 +398,8 @@ TEST_F(LMTabHeaderViewTest, AKeyWithoutATranslationShowsTheKey) {
     strip->addTab(QStringLiteral("Jazz Archive"), QIcon());
 
     EXPECT_EQ(strip->tabButtons().at(0)->text(), QStringLiteral("Jazz Archive"));
-    EXPECT_EQ(strip->tabButtons().at(0)->toolTip(), QStringLiteral("Jazz Archive"));
+    EXPECT_EQ(strip->tabButtons().at(0)->toolTip().section(QLatin1Char('\n'), 0, 0),
+              QStringLiteral("Jazz Archive"));
 }
 
 TEST_F(LMTabHeaderViewTest, TabsAreNamedAndCheckedForAssistiveTools) {
@@ -440,6 +455,57 @@ TEST_F(LMTabHeaderViewTest, ClickingATabLeavesTheFocusInTheSearchField) {
     EXPECT_EQ(tabs->indexOfSelected(), 1u);
     EXPECT_TRUE(tabs->tabButtons().at(1)->isChecked());
     EXPECT_TRUE(search->hasFocus());
+}
+
+TEST_F(LMTabHeaderViewTest, LeftAndRightOnAFocusedTabSelectTheNeighbourWhichTakesTheFocus) {
+    addTabs({QStringLiteral("Recent"), QStringLiteral("Video"), QStringLiteral("Custom")});
+    focusSecondTabByKey();
+    const QList<QPushButton*>& tabs = strip->tabButtons();
+    EXPECT_EQ(strip->indexOfSelected(), 1u);
+    QTest::keyClick(tabs.at(1), Qt::Key_Right);
+    QTest::keyClick(tabs.at(2), Qt::Key_Right);
+    EXPECT_EQ(strip->indexOfSelected(), 2u);
+    EXPECT_TRUE(tabs.at(2)->hasFocus());
+    QTest::keyClick(tabs.at(2), Qt::Key_Left);
+    EXPECT_EQ(strip->indexOfSelected(), 1u);
+
+    const std::vector<DelegateMessage> expected{
+        {DelegateMessage::WillChange, 1, 0}, {DelegateMessage::DidChange, 0, 1},
+        {DelegateMessage::WillChange, 2, 1}, {DelegateMessage::DidChange, 0, 2},
+        {DelegateMessage::WillChange, 1, 2}, {DelegateMessage::DidChange, 0, 1},
+    };
+    EXPECT_EQ(delegate.messages, expected);
+}
+
+// The ring is the palette's highlight, on the fixed light fills of the tabs,
+// whether the host's palette is light or dark.
+TEST_F(LMTabHeaderViewTest, TheFocusedTabShowsAFocusRingInLightAndDarkPalettes) {
+    addSevenTabs();
+    focusSecondTabByKey();
+
+    for (const QColor& window : {QColor(239, 239, 239), QColor(45, 45, 45)}) {
+        QPalette palette = strip->palette();
+        palette.setColor(QPalette::Window, window);
+        palette.setColor(QPalette::Highlight, QColor(200, 30, 40));
+        strip->setPalette(palette);
+        const QImage image = rendered();
+        const QRect focused = strip->frameOfTabButton(1);
+        const QRect other = strip->frameOfTabButton(2);
+        for (const int inside : {2, 3}) {
+            EXPECT_EQ(rgbAt(image, focused.left() + inside, focused.center().y()), "200,30,40")
+                << window.name().toStdString();
+            EXPECT_EQ(rgbAt(image, other.left() + inside, other.center().y()), kLilacGrey);
+        }
+        // The tab's own border stays as it is.
+        EXPECT_EQ(rgbAt(image, focused.left(), focused.center().y()), kGrey);
+    }
+}
+
+TEST_F(LMTabHeaderViewTest, TabToolTipsNameTheKeysThatSwitchTabs) {
+    addTabs({QStringLiteral("Recent"), QStringLiteral("Custom")});
+    const QString tip = strip->tabButtons().at(0)->toolTip();
+    for (const char* keys : {"Ctrl+Tab", "Ctrl+PgDown", "Ctrl+Shift+Tab", "Ctrl+PgUp", "Left"})
+        EXPECT_TRUE(tip.contains(QLatin1StringView(keys))) << keys << " in " << tip.toStdString();
 }
 
 TEST_F(LMTabHeaderViewTest, TabsShowTheArrowCursor) {

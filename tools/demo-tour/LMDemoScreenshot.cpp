@@ -10,11 +10,16 @@
 
 namespace {
 
-// Host windows first, then tool windows (the popup), then dialogs: the order in
-// which a window manager stacks them.
+// Host windows first, then tool windows (the popup), then dialogs, a dialog
+// over the one it belongs to (the name prompt over the editor): the order in
+// which a window manager stacks them. topLevelWidgets() has no order of its own.
 int StackingRank(const QWidget* window) {
-    if (window->isModal() || window->windowType() == Qt::Dialog)
-        return 2;
+    if (window->isModal() || window->windowType() == Qt::Dialog) {
+        int depth = 0;
+        for (const QWidget* owner = window->parentWidget(); owner; owner = owner->parentWidget())
+            ++depth;
+        return 2 + depth;
+    }
     if (window->windowType() == Qt::Tool)
         return 1;
     return 0;

@@ -158,10 +158,16 @@ bool LMDemoTour::popupSteps() {
     if (!shoot(QStringLiteral("02-category-hover")))
         return false;
 
-    // 3. A search in progress.
+    // 3. A search in progress, then Down from the field: the first match is
+    //    the keyboard's current row and wears the focus ring.
     QTest::keyClicks(Popup()->searchField(), QStringLiteral("1080"));
     if (!shoot(QStringLiteral("03-search")))
         return false;
+    QTest::keyClick(ctrl->windowHandle(), Qt::Key_Down);
+    if (!check(video->hasFocus(), "Down in the search field did not reach the list") ||
+        !shoot(QStringLiteral("03-search-keyboard")))
+        return false;
+    Popup()->searchField()->setFocus(Qt::OtherFocusReason);
     QTest::keyClick(Popup()->searchField(), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(Popup()->searchField(), Qt::Key_Backspace);
     settle();
