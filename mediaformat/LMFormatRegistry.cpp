@@ -23,20 +23,37 @@ QLatin1StringView View(const std::string& text) {
     return QLatin1StringView(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-template <typename List>
-int FindIn(const List& list, QStringView id) {
+bool SameId(QStringView id, const std::string& mine) {
+    return id == View(mine);
+}
+
+bool SameId(std::string_view id, const std::string& mine) {
+    return id == mine;
+}
+
+template <typename List, typename Id>
+int FindIn(const List& list, Id id) {
     for (std::size_t i = 0; i < list.size(); ++i) {
-        if (id == View(list[i]->IdRef()))
+        if (SameId(id, list[i]->IdRef()))
             return static_cast<int>(i);
     }
     return -1;
 }
 
-template <typename List>
-int FindIn(const List& list, std::string_view id) {
-    for (std::size_t i = 0; i < list.size(); ++i) {
-        if (id == list[i]->IdRef())
-            return static_cast<int>(i);
+// The entry with that id in the codec's list, or -1; ids come as Qt or UTF-8 text.
+template <typename Id>
+int FindOption(const LMCodecInfo& codec, LMOptionList list, Id id) {
+    switch (list) {
+    case LMOptionList::Resolution:
+        return FindIn(codec.resolutions, id);
+    case LMOptionList::Framerate:
+        return FindIn(codec.framerates, id);
+    case LMOptionList::Quality:
+        return FindIn(codec.qualities, id);
+    case LMOptionList::Samplerate:
+        return FindIn(codec.samplerates, id);
+    case LMOptionList::ChannelLayout:
+        return FindIn(codec.channelLayouts, id);
     }
     return -1;
 }
@@ -254,35 +271,11 @@ int LMCodecInfo::Count(LMOptionList list) const {
 }
 
 int LMCodecInfo::Find(LMOptionList list, QStringView id) const {
-    switch (list) {
-    case LMOptionList::Resolution:
-        return FindIn(resolutions, id);
-    case LMOptionList::Framerate:
-        return FindIn(framerates, id);
-    case LMOptionList::Quality:
-        return FindIn(qualities, id);
-    case LMOptionList::Samplerate:
-        return FindIn(samplerates, id);
-    case LMOptionList::ChannelLayout:
-        return FindIn(channelLayouts, id);
-    }
-    return -1;
+    return FindOption(*this, list, id);
 }
 
 int LMCodecInfo::Find(LMOptionList list, std::string_view id) const {
-    switch (list) {
-    case LMOptionList::Resolution:
-        return FindIn(resolutions, id);
-    case LMOptionList::Framerate:
-        return FindIn(framerates, id);
-    case LMOptionList::Quality:
-        return FindIn(qualities, id);
-    case LMOptionList::Samplerate:
-        return FindIn(samplerates, id);
-    case LMOptionList::ChannelLayout:
-        return FindIn(channelLayouts, id);
-    }
-    return -1;
+    return FindOption(*this, list, id);
 }
 
 const std::string& LMCodecInfo::IdAt(LMOptionList list, int index) const {

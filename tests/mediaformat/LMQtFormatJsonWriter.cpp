@@ -27,18 +27,6 @@ void InsertExtra(QJsonObject& object, const QJsonObject& extra) {
     }
 }
 
-// Whether a codec has an option set away from its default, i.e. whether
-// StreamJson would write more than the codec's id.
-bool HasChoices(const LMFormatPreset& preset, bool audio, int codec) {
-    const LMCodecInfo* info = preset.Codec(audio, codec);
-    for (int list = 0; list < LMOptionListCount; ++list) {
-        const int index = preset.Option(audio, codec, static_cast<LMOptionList>(list));
-        if (index >= 0 && index != info->defaults[static_cast<std::size_t>(list)])
-            return true;
-    }
-    return false;
-}
-
 QJsonObject StreamJson(const LMFormatPreset& preset, bool audio, int codec) {
     const LMCodecInfo* info = preset.Codec(audio, codec);
     QJsonObject object;
@@ -108,9 +96,8 @@ QJsonObject LMQtFormatJsonWriter::WritePreset(const LMFormatPreset& preset) {
             object.insert(Key(audio ? "audio" : "video"), QJsonValue());
         }
         for (int codec = 0; codec < count; ++codec) {
-            // Most codecs that are not current keep their defaults and write
-            // nothing; check that before building their object.
-            if (codec == current || !HasChoices(preset, audio, codec))
+            // A codec that is not current is written when it keeps a choice.
+            if (codec == current)
                 continue;
             QJsonObject choice = StreamJson(preset, audio, codec);
             if (choice.size() > 1) {
