@@ -411,10 +411,7 @@ std::shared_ptr<ILMCodecPreset> LMFormatEditingWndCtrlPrivate::currentCodec(bool
 void LMFormatEditingWndCtrlPrivate::changeEncoder(bool audio, int index) {
     if (!editingFormat)
         return;
-    if (audio)
-        editingFormat->SetCurrentAudioCodec(index);
-    else
-        editingFormat->SetCurrentVideoCodec(index);
+    ILMFormatPreset::ChangeCodecKeepingChoices(*editingFormat, audio, index);
     setupCodec(audio, index);
 }
 
@@ -469,6 +466,7 @@ void LMFormatEditingWndCtrlPrivate::CancelAction() {
 void LMFormatEditingWndCtrlPrivate::SaveAction() {
     if (!editingFormat || !originalFormat)
         return;
+    describeChangedSettings(*editingFormat);
     auto source = ILMFmtPresetDataSource::Shared();
     source->PushRecentItem(editingFormat, fmtNode);
     source->SaveRecentList();
@@ -490,12 +488,20 @@ void LMFormatEditingWndCtrlPrivate::SaveAsNewPresetAction() {
                              return;
                          auto copy = editingFormat->Clone();
                          copy->SetTitle(name.toStdString());
+                         describeChangedSettings(*copy);
                          auto source = ILMFmtPresetDataSource::Shared();
                          source->AddCustomPreset(copy, fmtNode);
                          source->SaveCustomList();
                          if (delegate)
                              delegate->formatEditingWndCtrlDidCreateFormatPreset(q);
                      });
+}
+
+// A catalogue preset keeps its own wording while its settings stand; once they
+// change, the description says what they are now.
+void LMFormatEditingWndCtrlPrivate::describeChangedSettings(ILMFormatPreset& preset) const {
+    if (originalFormat && !ILMFormatPreset::HaveSameSettings(preset, *originalFormat))
+        preset.SetDescription(ILMFormatPreset::DescribeSettings(preset));
 }
 
 // ---- Naming a new preset ---------------------------------------------------------

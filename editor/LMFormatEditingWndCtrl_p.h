@@ -99,6 +99,7 @@ private:
     void setupStream(bool audio);
     void setupCodec(bool audio, int index);
     void changeEncoder(bool audio, int index);
+    void describeChangedSettings(Lumeran::ILMFormatPreset& preset) const;
     std::shared_ptr<Lumeran::ILMCodecPreset> currentCodec(bool audio) const;
     StreamBoxes boxes(bool audio) const;
     std::array<QPushButton*, 3> buttons() const;

@@ -59,6 +59,19 @@ public:
     std::shared_ptr<ILMCodecPreset> CurrentAudioCodec() const {
         return AudioCodecAt(CurrentAudioCodecIndex());
     }
+
+    // What the preset's settings make, as its description says it: the video
+    // codec with its frame size when it sets one, and the audio codec,
+    // "HEVC 1280x720 / AAC"; one of them alone when the other stream is off. The
+    // container is left out: the preset's format node names it.
+    static std::string DescribeSettings(const ILMFormatPreset& preset);
+    // Whether two presets encode alike (container, codecs and every option),
+    // whatever their titles, descriptions and faces.
+    static bool HaveSameSettings(const ILMFormatPreset& a, const ILMFormatPreset& b);
+    // Makes codec index the current one of its stream, keeping the frame size
+    // and rate (video) or sample rate and channels (audio) the previous codec had
+    // wherever the new one offers the same.
+    static void ChangeCodecKeepingChoices(ILMFormatPreset& preset, bool audio, int index);
 };
 
 } // namespace Lumeran

@@ -694,3 +694,50 @@ TEST_F(LMFormatEditingWndCtrlTest, TheNamePromptShowsTheApplicationsNameOnce) {
     EXPECT_EQ(shown, 1);
     EXPECT_EQ(message, Localized("Save as New Preset"));
 }
+
+// ---- Descriptions follow the settings -------------------------------------------------
+
+TEST_F(LMFormatEditingWndCtrlTest, ANewEncoderKeepsTheFrameSizeAndTheSavedPresetDescribesIt) {
+    const auto preset = cataloguePreset(mp4, "HD 1080p");
+    ASSERT_EQ(preset->Description(), "H.264 1920x1080 / AAC");
+    const bool saved = edit(preset, mp4, [this] {
+        choose("cmbVEncoder", QStringLiteral("HEVC"));
+        ASSERT_EQ(box("cmbVEncoder")->currentText(), QStringLiteral("HEVC"));
+        EXPECT_EQ(box("cmbResolution")->currentText(), QStringLiteral("1920x1080"));
+        choose("cmbResolution", QStringLiteral("1280x720"));
+        click("btnSave");
+    });
+    EXPECT_TRUE(saved);
+    EXPECT_EQ(preset->Description(), "HEVC 1280x720 / AAC");
+    const auto recent = ILMFmtPresetDataSource::Shared()->GetRecentList();
+    ASSERT_EQ(recent.size(), 1u);
+    EXPECT_EQ(recent[0]->FormatPreset()->Description(), "HEVC 1280x720 / AAC");
+}
+
+TEST_F(LMFormatEditingWndCtrlTest, SavedUnchangedAPresetKeepsItsCataloguesWording) {
+    const auto preset = cataloguePreset(mp4, "High Quality");
+    preset->SetDescription("Best for sharing");
+    edit(preset, mp4, [this] {
+        // Changed and changed back: the settings stand as they were.
+        choose("cmbResolution", QStringLiteral("1280x720"));
+        choose("cmbResolution", QStringLiteral("Same as source"));
+        click("btnSave");
+    });
+    EXPECT_EQ(preset->Description(), "Best for sharing");
+}
+
+TEST_F(LMFormatEditingWndCtrlTest, ANewPresetWithOtherSettingsDescribesThem) {
+    edit(cataloguePreset(mp4, "Low Quality"), mp4, [this] {
+        choose("cmbResolution", QStringLiteral("854x480"));
+        click("btnSaveNewPreset");
+        ASSERT_TRUE(prompt());
+        QLineEdit* field = prompt()->accessoryView()->textField();
+        QTest::keyClicks(field, QStringLiteral("Phone small"));
+        QTest::keyClick(field, Qt::Key_Return);
+    });
+    const auto group = ILMFmtPresetDataSource::Shared()->GetCustomList()->FindChild("MP4");
+    ASSERT_TRUE(group);
+    const auto created = group->FindFormatPreset("Phone small");
+    ASSERT_TRUE(created);
+    EXPECT_EQ(created->Description(), "H.264 854x480 / AAC");
+}

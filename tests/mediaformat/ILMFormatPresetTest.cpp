@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ILMFormatPreset.h"
+#include "ILMCodecPreset.h"
+#include "ILMFrameratePreset.h"
+#include "ILMResolutionPreset.h"
 #include "LMFormatTreeFactory.h"
 
 #include <gtest/gtest.h>
@@ -99,4 +102,76 @@ TEST(ILMFormatPresetTest, IsEqualToComparesAllSettings) {
     b->AudioCodecAt(2)->SetCurrentSamplerate(0);
     EXPECT_TRUE(a->IsEqualTo(b)) << "setting the default back is equal again";
     EXPECT_FALSE(a->IsEqualTo(nullptr));
+}
+
+namespace {
+
+int IndexOf(const std::shared_ptr<ILMCodecPreset>& codec, int count,
+            std::shared_ptr<const ILMResolutionPreset> (ILMCodecPreset::*at)(int) const,
+            const std::string& id) {
+    for (int i = 0; i < count; ++i) {
+        if (((*codec).*at)(i)->Id() == id)
+            return i;
+    }
+    return -1;
+}
+
+int CodecIndex(const ILMFormatPreset& preset, bool audio, const std::string& id) {
+    const int count = audio ? preset.AudioCodecCount() : preset.VideoCodecCount();
+    for (int i = 0; i < count; ++i) {
+        if ((audio ? preset.AudioCodecAt(i) : preset.VideoCodecAt(i))->Id() == id)
+            return i;
+    }
+    return -1;
+}
+
+} // namespace
+
+TEST(ILMFormatPresetTest, TheSettingsDescribeTheVideoCodecWithItsFrameSizeAndTheAudioCodec) {
+    auto mp4 = MakePreset("mp4", "x");
+    EXPECT_EQ(ILMFormatPreset::DescribeSettings(*mp4), "H.264 / AAC");
+    auto video = mp4->CurrentVideoCodec();
+    video->SetCurrentResolution(
+        IndexOf(video, video->ResolutionCount(), &ILMCodecPreset::ResolutionAt, "1280x720"));
+    EXPECT_EQ(ILMFormatPreset::DescribeSettings(*mp4), "H.264 1280x720 / AAC");
+    mp4->SetCurrentAudioCodec(-1);
+    EXPECT_EQ(ILMFormatPreset::DescribeSettings(*mp4), "H.264 1280x720");
+    mp4->SetCurrentVideoCodec(CodecIndex(*mp4, false, "hevc"));
+    EXPECT_EQ(ILMFormatPreset::DescribeSettings(*mp4), "HEVC");
+    EXPECT_EQ(ILMFormatPreset::DescribeSettings(*MakePreset("wav", "w")), "PCM 16-bit");
+}
+
+TEST(ILMFormatPresetTest, ANewCodecKeepsTheFrameSizeAndRateItAlsoOffers) {
+    auto mp4 = MakePreset("mp4", "x");
+    auto h264 = mp4->CurrentVideoCodec();
+    h264->SetCurrentResolution(
+        IndexOf(h264, h264->ResolutionCount(), &ILMCodecPreset::ResolutionAt, "1280x720"));
+    h264->SetCurrentFramerate(2);
+    const std::string rate = h264->FramerateAt(2)->Id();
+    ILMFormatPreset::ChangeCodecKeepingChoices(*mp4, false, CodecIndex(*mp4, false, "hevc"));
+    const auto hevc = mp4->CurrentVideoCodec();
+    ASSERT_EQ(hevc->Id(), "hevc");
+    EXPECT_EQ(hevc->ResolutionAt(hevc->CurrentResolutionIndex())->Id(), "1280x720");
+    EXPECT_EQ(hevc->FramerateAt(hevc->CurrentFramerateIndex())->Id(), rate);
+
+    // A size the new codec does not offer leaves it at its own default.
+    auto portrait = MakePreset("mp4", "y");
+    auto video = portrait->CurrentVideoCodec();
+    video->SetCurrentResolution(
+        IndexOf(video, video->ResolutionCount(), &ILMCodecPreset::ResolutionAt, "1080x1920"));
+    ILMFormatPreset::ChangeCodecKeepingChoices(*portrait, false,
+                                               CodecIndex(*portrait, false, "hevc"));
+    const auto after = portrait->CurrentVideoCodec();
+    EXPECT_EQ(after->ResolutionAt(after->CurrentResolutionIndex())->Id(), "same");
+}
+
+TEST(ILMFormatPresetTest, TheSameSettingsWhateverTheTexts) {
+    auto a = MakePreset("mp4", "a");
+    auto b = MakePreset("mp4", "b");
+    b->SetDescription("other words");
+    b->SetFaceID(7);
+    EXPECT_TRUE(ILMFormatPreset::HaveSameSettings(*a, *b));
+    b->CurrentAudioCodec()->SetCurrentSamplerate(1);
+    EXPECT_FALSE(ILMFormatPreset::HaveSameSettings(*a, *b));
+    EXPECT_FALSE(ILMFormatPreset::HaveSameSettings(*a, *MakePreset("mkv", "a")));
 }
