@@ -8,6 +8,7 @@
 #include "LMCatalogueLoadHook_p.h"
 #include "LMFormatReadOptions.h"
 #include "LMLoaderExitGuard.h"
+#include "LMShownText.h"
 #include "LMStoredList.h"
 
 #include <algorithm>
@@ -42,6 +43,14 @@ bool Contains(const std::string& text, const std::string& lowerKey) {
             return true;
     }
     return false;
+}
+
+// Whether the text, as written or as shown in the language on screen, holds the key.
+bool Matches(const std::string& text, const std::string& lowerKey) {
+    if (Contains(text, lowerKey))
+        return true;
+    const std::string* shown = LMShownText::LowerCase(text);
+    return shown && shown->find(lowerKey) != std::string::npos;
 }
 
 // Runs on the std::async worker: the whole parse stays off the caller's thread.
@@ -405,13 +414,13 @@ LMFmtPresetDataSource::SearchFormatPresets(std::shared_ptr<const ILMFormatNode> 
     const int presetCount = node->FormatPresetCount();
     for (int i = 0; i < presetCount; ++i) {
         const auto preset = node->FormatPresetAt(i);
-        if (Contains(preset->Title(), lowerKey) || Contains(preset->Description(), lowerKey))
+        if (Matches(preset->Title(), lowerKey) || Matches(preset->Description(), lowerKey))
             result->AddFormatPreset(preset->Clone());
     }
     const int childCount = node->ChildCount();
     for (int j = 0; j < childCount; ++j) {
         const auto child = node->ChildAt(j);
-        if (Contains(child->Title(), lowerKey)) {
+        if (Matches(child->Title(), lowerKey)) {
             // A matching group is shown whole, so the user sees everything in it.
             auto copy = child->Clone(ILMFormatNode::CloneAll);
             copy->SetParent(result);
@@ -432,8 +441,7 @@ LMFmtPresetDataSource::SearchFormatPresets(const RecentList& list, const std::st
     const std::string lowerKey = ILMStringHelper::ToLower(key);
     RecentList result;
     for (const auto& entry : list) {
-        if (entry &&
-            (Contains(entry->Title(), lowerKey) || Contains(entry->Description(), lowerKey)))
+        if (entry && (Matches(entry->Title(), lowerKey) || Matches(entry->Description(), lowerKey)))
             result.push_back(entry);
     }
     return result;

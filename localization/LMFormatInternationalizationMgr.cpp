@@ -2,7 +2,9 @@
 #include "LMFormatInternationalizationMgr.h"
 
 #include "ILMAppSettings.h"
+#include "ILMStringHelper.h"
 #include "LMLocalizableStrings.h"
+#include "LMShownText.h"
 #include "LMSingleton.h"
 
 #include <QCoreApplication>
@@ -84,6 +86,7 @@ LMFormatInternationalizationMgr::LMFormatInternationalizationMgr(QObject* parent
     : QObject(parent), d(std::make_unique<Private>()) {
     initLocalizationResources();
     setUpAllKey();
+    publishShownTexts();
 }
 
 LMFormatInternationalizationMgr::~LMFormatInternationalizationMgr() = default;
@@ -145,8 +148,23 @@ void LMFormatInternationalizationMgr::setLanguage(const QString& language) {
     const auto settings = Lumeran::ILMAppSettings::Shared();
     settings->SetStringValue(code.toStdString(), kUserLanguageKey);
     settings->Synchronize();
+    publishShownTexts();
     allKeyChange();
     Q_EMIT languageDidChange();
+}
+
+// Search matches what the user reads: the data source gets every text of the
+// tables as the current language shows it, lower-cased as search lower-cases.
+void LMFormatInternationalizationMgr::publishShownTexts() const {
+    const QString bundle = languageBundle();
+    Lumeran::LMShownText::Table table;
+    for (const QString& key : LMLocalizableStrings::keyList()) {
+        const QString shown = stringForKeyInBundle(key, bundle);
+        if (shown.isEmpty() || shown == key)
+            continue;
+        table.emplace(key.toStdString(), Lumeran::ILMStringHelper::ToLower(shown.toStdString()));
+    }
+    Lumeran::LMShownText::SetLowerCaseTable(std::move(table));
 }
 
 QString LMFormatInternationalizationMgr::systemLanguageCode() const {

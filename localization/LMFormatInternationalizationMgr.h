@@ -125,6 +125,7 @@ Q_SIGNALS:
 
 private:
     QVariant valueForUndefinedKey(const QString& key) const;
+    void publishShownTexts() const;
 
     struct Private;
     std::unique_ptr<Private> d;

@@ -2,6 +2,8 @@
 #include "LMFormatInternationalizationMgr.h"
 
 #include "ILMAppSettings.h"
+#include "ILMFmtPresetRecentItem.h"
+#include "LMFmtPresetDataSource.h"
 #include "LMLocalizableStrings.h"
 #include "LMTestEnvironment.h"
 
@@ -624,4 +626,32 @@ TEST(LMFormatLocalizationTables, TechnicalCatalogueTextsAreToldApartFromWords) {
     for (const char* text : {"Smartphone", "Square 1080p", "Game Console", "Formats",
                              "MP4 file format", "HD Ready", ""})
         EXPECT_FALSE(isTechnicalText(QString::fromUtf8(text))) << text;
+}
+
+// --- search in the language on screen
+
+TEST_F(LMFormatInternationalizationMgrTest, SearchFindsPresetsByTheWordsShownInTheLanguageSet) {
+    LMFmtPresetDataSource source;
+    auto node = ILMFormatNode::MallocFormatNode("MP4", "MP4 file format", 100);
+    node->AddFormatPreset(ILMFormatPreset::MallocFormatPreset("mp4", "High Quality"));
+    node->AddFormatPreset(ILMFormatPreset::MallocFormatPreset("mp4", "Low Quality"));
+    const auto titles = [&](const std::string& key) {
+        std::vector<std::string> found;
+        const auto result = source.SearchFormatPresets(node, key, nullptr);
+        for (int i = 0; result && i < result->FormatPresetCount(); ++i)
+            found.push_back(result->FormatPresetAt(i)->Title());
+        return found;
+    };
+    mgr.setLanguage(LMFormatLanguageFrench);
+    EXPECT_EQ(titles("haute"), std::vector<std::string>{"High Quality"});
+    EXPECT_EQ(titles("HAUTE QUAL"), std::vector<std::string>{"High Quality"});
+    // What the English texts match still matches.
+    EXPECT_EQ(titles("high"), std::vector<std::string>{"High Quality"});
+    // A recent entry shows its format's description: found by its French words.
+    const ILMFmtPresetDataSource::RecentList recent{
+        ILMFmtPresetRecentItem::MallocFmtPresetRecentItem(node->FormatPresetAt(1), node)};
+    EXPECT_EQ(source.SearchFormatPresets(recent, "fichier").size(), 1u);
+    mgr.setLanguage(LMFormatLanguageEnglish);
+    EXPECT_TRUE(titles("haute").empty());
+    EXPECT_TRUE(source.SearchFormatPresets(recent, "fichier").empty());
 }
