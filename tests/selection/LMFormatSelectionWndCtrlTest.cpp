@@ -120,6 +120,12 @@ protected:
             completions.push_back({preset, node});
         });
         QApplication::processEvents();
+        // A window manager maps the window and then places it: until it is
+        // where it was asked to be, a point mapped to the screen misses.
+        const QRect frame = ctrl->frameFromRect(QRectF(100, 100, 120, 30));
+        EXPECT_TRUE(QTest::qWaitFor([this, frame] {
+            return ctrl->isVisible() && ctrl->geometry() == frame;
+        })) << "the popup did not settle at its place";
     }
 
     QStringList TabTitles() const {
@@ -154,9 +160,13 @@ protected:
                           std::function<void()> whileEditing) {
         const QRect rect = view->visualRect(view->model()->index(row, 0));
         QTest::mouseMove(view->viewport(), rect.center());
+        // On a real display the pointer moves through the X server: the row
+        // learns of it a round trip later.
+        ASSERT_TRUE(QTest::qWaitFor([view, row] {
+            const LMFormatDataViewItem* hovered = view->itemAtIndex(row);
+            return hovered && hovered->showEditing();
+        }));
         LMFormatDataViewItem* item = view->itemAtIndex(row);
-        ASSERT_NE(item, nullptr);
-        ASSERT_TRUE(item->showEditing());
         const QRect button =
             item->dataView()->actionButtonGeometry(LMFormatDataView::ActionButton::Edit);
         ASSERT_FALSE(button.isEmpty());
