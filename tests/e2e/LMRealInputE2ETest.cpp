@@ -108,6 +108,17 @@ protected:
         return E2E::WaitForTabCount(popup, 6) ? popup : nullptr;
     }
 
+    // Double-clicks at a point: the popup closes with one completion (choices
+    // of them a choice), and not one mouse event reaches the host.
+    void DoubleClickToClose(const QWidget* popup, const QPoint& at, int choices) {
+        E2E::ClickAt(at, 2);
+        EXPECT_FALSE(popup->isVisible());
+        EXPECT_EQ(host.completions, 1);
+        EXPECT_EQ(host.choices, choices);
+        EXPECT_TRUE(host.surfaceEvents.isEmpty())
+            << host.surfaceEvents.size() << " mouse events reached the host";
+    }
+
     // A click after this is a click of its own, not the second of a double-click.
     static void WaitOutTheDoubleClickInterval() {
         QTest::qWait(QGuiApplication::styleHints()->mouseDoubleClickInterval() + 100);
@@ -149,12 +160,7 @@ TEST_F(LMRealInputE2ETest, DoubleClickingAPresetChoosesItOnceAndClicksNothingUnd
     // Where the preset is, the host's surface lies under the popup.
     ASSERT_TRUE(host.frameGeometry().contains(target));
 
-    E2E::ClickAt(target, 2);
-    EXPECT_FALSE(popup->isVisible());
-    EXPECT_EQ(host.completions, 1);
-    EXPECT_EQ(host.choices, 1);
-    EXPECT_TRUE(host.surfaceEvents.isEmpty())
-        << host.surfaceEvents.size() << " mouse events reached the host";
+    DoubleClickToClose(popup, target, 1);
     EXPECT_EQ(host.showings, 1);
 
     // A click of its own, once the double-click is over, is the host's.
@@ -171,12 +177,7 @@ TEST_F(LMRealInputE2ETest, DoubleClickingBesideThePopupClosesItAndClicksNothing)
     const QPoint beside = host.mapToGlobal(QPoint(600, 10));
     ASSERT_FALSE(popup->frameGeometry().contains(beside));
 
-    E2E::ClickAt(beside, 2);
-    EXPECT_FALSE(popup->isVisible());
-    EXPECT_EQ(host.completions, 1);
-    EXPECT_EQ(host.choices, 0);
-    EXPECT_TRUE(host.surfaceEvents.isEmpty())
-        << host.surfaceEvents.size() << " mouse events reached the host";
+    DoubleClickToClose(popup, beside, 0);
 }
 
 TEST_F(LMRealInputE2ETest, EveryShowingCompletesOnceWhenTheHostPopsUpAgainAndAgain) {
