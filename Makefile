@@ -14,7 +14,7 @@ FUZZ_SECONDS ?= 60
 export CCACHE_BASEDIR ?= $(CURDIR)
 export CCACHE_NOHASHDIR ?= true
 
-.PHONY: all deps deps-fuzz configure build test bench demo asan tsan fuzz clean format format-check test-whole lint
+.PHONY: all deps deps-fuzz configure build test test-xcb bench demo asan tsan fuzz clean format format-check test-whole lint
 
 all: build
 
@@ -30,8 +30,15 @@ configure: deps
 build: configure
 	cmake --build $(BUILD_DIR) -j$(JOBS)
 
+# Every test offscreen, then the widget tests again on a real X server (label
+# xcb: Xvfb with openbox, one server per case, see scripts/run-on-x-server.sh).
 test: build
-	cd $(BUILD_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j$(JOBS)
+	cd $(BUILD_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j$(JOBS) -LE xcb
+	cd $(BUILD_DIR) && ctest --output-on-failure -j$(JOBS) -L xcb
+
+# The real-display lane alone.
+test-xcb: build
+	cd $(BUILD_DIR) && ctest --output-on-failure -j$(JOBS) -L xcb
 
 # Every test program run whole, all cases in one process (ctest runs one per process).
 test-whole: build
@@ -51,8 +58,10 @@ demo: build
 # headers and compare the guide's text with its example. The encode label runs
 # FFmpeg on every preset of the catalogue: most of its time is spent in FFmpeg,
 # which is not instrumented, and the arguments our code builds for it are
-# checked by the mediaformat tests. `make test` runs both labels.
-SANITIZER_CTEST = QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j$(JOBS) -LE 'package|encode'
+# checked by the mediaformat tests. `make test` runs both labels. The xcb label
+# runs the widget tests a second time on a real X server; the offscreen run
+# already puts the same code under the sanitizer.
+SANITIZER_CTEST = QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j$(JOBS) -LE 'package|encode|xcb'
 
 # AddressSanitizer, LeakSanitizer and UBSan; any report fails the test it came
 # from. The options are set for the build as well, because the build runs every

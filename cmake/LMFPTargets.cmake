@@ -162,6 +162,10 @@ function(lmfp_install_headers target)
 endfunction()
 
 # A GoogleTest program registered with CTest, one test per case, run offscreen.
+# Programs whose label is in LMFP_REAL_DISPLAY_LABELS are registered a second
+# time, each case as "xcb.<case>" with the label xcb alone (the discovery of
+# CMake 3.25 splits a list of labels into separate properties), started by
+# scripts/run-on-x-server.sh on an X server of its own.
 #   lmfp_add_test(<target> LABEL <label> SOURCES ... OBJECTS ... LIBS ...)
 # OBJECTS are object libraries (the framework's folders, the test support), linked
 # with everything they need through lmfp_link_objects; LIBS are other libraries.
@@ -180,4 +184,14 @@ function(lmfp_add_test target)
     gtest_discover_tests(${target}
         PROPERTIES LABELS "${ARG_LABEL}" ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 120
         DISCOVERY_TIMEOUT 60)
+    if(LMFP_REAL_DISPLAY_TESTS AND ARG_LABEL IN_LIST LMFP_REAL_DISPLAY_LABELS)
+        # gtest_discover_tests starts the cases through the target's emulator,
+        # read when it is called: set for this registration only.
+        set_property(TARGET ${target} PROPERTY CROSSCOMPILING_EMULATOR
+            ${PROJECT_SOURCE_DIR}/scripts/run-on-x-server.sh)
+        gtest_discover_tests(${target} TEST_PREFIX xcb.
+            PROPERTIES LABELS xcb TIMEOUT 120
+            DISCOVERY_TIMEOUT 60)
+        set_property(TARGET ${target} PROPERTY CROSSCOMPILING_EMULATOR "")
+    endif()
 endfunction()

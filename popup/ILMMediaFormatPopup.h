@@ -43,7 +43,8 @@ public:
     // Pops the selection up at a point (a 1 x 1 rectangle there).
     virtual void PopupSelection(const std::pair<float, float>& point, Completion completion) = 0;
     // Pops the selection up under rect, or above it when there is no room below.
-    // Returns at once; the choice arrives later through completion.
+    // Returns at once; the choice arrives later through completion. A showing
+    // still open is completed first (two empty handles), then replaced.
     virtual void PopupSelection(const Rect& rect, Completion completion) = 0;
     // Opens the preset editor modally on preset; true when the user saved, and
     // then preset holds the new settings.

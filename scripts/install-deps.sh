@@ -13,7 +13,7 @@ packages=(
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   ffmpeg
   fonts-dejavu-core fonts-noto-core fonts-noto-cjk
-  xauth xvfb
+  xauth xvfb openbox xdotool
 )
 if [ "${1:-}" = "--fuzz" ]; then
   packages=(clang libclang-rt-dev llvm)

@@ -6,6 +6,7 @@
 #include "ILMArtworkImageGroupAdapter.h"
 #include "ILMArtworkImageMgr.h"
 #include "ILMFmtPresetDataSource.h"
+#include "LMClickSequenceGuard.h"
 #include "LMFmtNodeViewCtrl.h"
 #include "LMFmtRecentViewCtrl.h"
 #include "LMFormatCollectionView.h"
@@ -96,6 +97,9 @@ LMFormatSelectionWndCtrl::LMFormatSelectionWndCtrl()
 LMFormatSelectionWndCtrl::~LMFormatSelectionWndCtrl() = default;
 
 void LMFormatSelectionWndCtrl::popupSelection(const QRectF& rect, CompleteHandler handler) {
+    d->completePendingShowing();
+    // A click the user makes from now on is aimed at this showing.
+    d->clickGuard->stop();
     d->completeHandler = std::move(handler);
     d->reloadCustomIfReplaced();
     d->finishedSelecting = false;
@@ -184,8 +188,16 @@ LMFormatInternationalizationMgr* LMFormatSelectionWndCtrl::lizationMgr() const {
 }
 
 bool LMFormatSelectionWndCtrl::event(QEvent* event) {
-    if (event->type() == QEvent::WindowDeactivate && isVisible())
+    if (event->type() == QEvent::WindowDeactivate && isVisible()) {
+        // With a window manager the click that takes the focus to a host window
+        // deactivates the popup before that click's press is delivered: the
+        // press, aimed at closing the popup, must not reach the host either.
+        // A popup on its way out (hide() deactivates it before it stops being
+        // visible) was closed by a key or by the popup itself, not by a click.
+        if (!isHidden())
+            d->clickGuard->swallowRestOfClick(QGuiApplication::mouseButtons() != Qt::NoButton);
         windowDidResignKey();
+    }
     return QWidget::event(event);
 }
 
@@ -198,8 +210,15 @@ bool LMFormatSelectionWndCtrl::eventFilter(QObject* watched, QEvent* event) {
         // Menus and tool tips of the popup's own controls are windows of their
         // own; a click in them is not a click outside.
         if (window && window != this && window->windowType() != Qt::Popup &&
-            window->windowType() != Qt::ToolTip)
+            window->windowType() != Qt::ToolTip) {
+            // The press only closes the popup, as a click outside a menu does:
+            // on the host's own format button it must not open the popup
+            // again, and anywhere else its release alone would reach a widget
+            // that never saw the press. The rest of its click goes nowhere.
+            d->clickGuard->swallowRestOfClick(true);
             windowDidResignKey();
+            return true;
+        }
     }
     return QWidget::eventFilter(watched, event);
 }
@@ -227,7 +246,8 @@ void LMFormatSelectionWndCtrl::paintEvent(QPaintEvent*) {
 // ---- Its insides -------------------------------------------------------------------
 
 LMFormatSelectionWndCtrlPrivate::LMFormatSelectionWndCtrlPrivate(LMFormatSelectionWndCtrl* owner)
-    : q(owner), ui(std::make_unique<Ui::LMFormatSelectionWndCtrl>()) {}
+    : q(owner), ui(std::make_unique<Ui::LMFormatSelectionWndCtrl>()),
+      clickGuard(new LMClickSequenceGuard(owner)) {}
 
 LMFormatSelectionWndCtrlPrivate::~LMFormatSelectionWndCtrlPrivate() = default;
 
@@ -414,6 +434,10 @@ void LMFormatSelectionWndCtrlPrivate::viewControllerSelectFormat(
     std::shared_ptr<const ILMFormatNode> node) {
     // Set before hiding, so the loss of focus that follows reports nothing.
     finishedSelecting = true;
+    // Chosen by a press: its release and a double-click's second click would
+    // land on the host under the pointer once the popup is gone.
+    if (QGuiApplication::mouseButtons() != Qt::NoButton)
+        clickGuard->swallowRestOfClick(true);
     q->hide();
     completeSelection(std::move(preset), std::move(node));
 }
@@ -444,6 +468,17 @@ void LMFormatSelectionWndCtrlPrivate::reloadCustomIfReplaced() {
 void LMFormatSelectionWndCtrlPrivate::formatEditingWndCtrlDidCreateFormatPreset(
     LMFormatEditingWndCtrl*) {
     customFmtViewCtrl()->loadFormatNode(ILMFmtPresetDataSource::Shared()->GetCustomList());
+}
+
+void LMFormatSelectionWndCtrlPrivate::completePendingShowing() {
+    if (finishedSelecting || !completeHandler)
+        return;
+    // Every showing completes once: one replaced while still open ends as a
+    // dismissal. The handler is taken first, so a handler that pops the
+    // selection up again does not see itself called twice.
+    finishedSelecting = true;
+    const LMFormatSelectionWndCtrl::CompleteHandler pending = std::exchange(completeHandler, {});
+    pending({}, {});
 }
 
 void LMFormatSelectionWndCtrlPrivate::completeSelection(

@@ -14,6 +14,7 @@
 
 #include <memory>
 
+class LMClickSequenceGuard;
 class LMFmtNodeViewCtrl;
 class LMFormatCollectionView;
 class LMFmtRecentViewCtrl;
@@ -51,6 +52,8 @@ public:
     // Records a choice in the recent list and tells the showing's handler.
     void completeSelection(std::shared_ptr<const Lumeran::ILMFormatPreset> preset,
                            std::shared_ptr<const Lumeran::ILMFormatNode> node);
+    // A showing still open when the next one starts reports a dismissal.
+    void completePendingShowing();
 
     void tabHeaderViewSelectionDidChanged(LMTabHeaderView* header) override;
     void viewControllerSelectFormat(QObject* ctrl,
@@ -102,6 +105,9 @@ private:
     LMFormatSelectionWndCtrl* const q;
     std::unique_ptr<Ui::LMFormatSelectionWndCtrl> ui;
     LMFormatSelectionWndCtrl::CompleteHandler completeHandler;
+    // Owned by the window; keeps the end of a click off the host once the
+    // popup has gone from under the pointer.
+    LMClickSequenceGuard* const clickGuard;
     LMFmtNodeViewCtrl* m_customFmtViewCtrl = nullptr;
     LMFmtRecentViewCtrl* m_recentFmtViewCtrl = nullptr;
     QList<LMFmtNodeViewCtrl*> m_defFmtViewCtrls;

@@ -4,11 +4,16 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QCursor>
 #include <QDialog>
+#include <QGuiApplication>
 #include <QItemSelectionModel>
 #include <QLabel>
+#include <QProcess>
 #include <QPushButton>
+#include <QStyleHints>
 #include <QTest>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -27,7 +32,82 @@ void SortLeftToRight(QList<T*>& widgets) {
               [](const T* a, const T* b) { return LeftInWindow(a) < LeftInWindow(b); });
 }
 
+// Runs xdotool with args; a failure to run it fails the test that asked.
+void Xdotool(const QStringList& args) {
+    const int status = QProcess::execute(QStringLiteral("xdotool"), args);
+    if (status != 0)
+        qWarning("xdotool %s: exit status %d", qPrintable(args.join(QLatin1Char(' '))), status);
+}
+
+// Lets the events of what xdotool did arrive and be handled: the X server
+// has them by the time xdotool returns, the application a moment later.
+void HandleWhatTheServerSent() {
+    QTest::qWait(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+}
+
+// The window at a point of the screen: the popup above everything else.
+QWindow* WindowAt(const QPoint& global) {
+    QWidget* popup = VisiblePopup();
+    QWidget* window =
+        popup && popup->geometry().contains(global) ? popup : QApplication::topLevelAt(global);
+    return window ? window->windowHandle() : nullptr;
+}
+
 } // namespace
+
+bool OnRealDisplay() {
+    return QGuiApplication::platformName() == QStringLiteral("xcb");
+}
+
+void ClickAt(const QPoint& global, int count) {
+    if (OnRealDisplay()) {
+        // Not with --sync: it can wait long for a move the server made at once
+        // (or did not need).
+        Xdotool({QStringLiteral("mousemove"), QString::number(global.x()),
+                 QString::number(global.y())});
+        if (!QTest::qWaitFor([global] { return QCursor::pos() == global; }, 2000))
+            qWarning("ClickAt: the pointer did not reach %d, %d", global.x(), global.y());
+        // Clicks 150 ms apart, well inside the double-click interval, as a
+        // hand makes them: time enough for what the first click does to
+        // happen before the second arrives.
+        Xdotool({QStringLiteral("click"), QStringLiteral("--repeat"), QString::number(count),
+                 QStringLiteral("--delay"), QStringLiteral("150"), QStringLiteral("1")});
+        HandleWhatTheServerSent();
+        return;
+    }
+    // Moved there first, as a pointer is before it clicks.
+    QCursor::setPos(global);
+    // Each press and release goes to the window at the point when it happens:
+    // a press that closes the popup leaves the rest to what lies below.
+    for (int click = 0; click < count; ++click) {
+        for (const QTest::MouseAction action : {QTest::MousePress, QTest::MouseRelease}) {
+            QWindow* window = WindowAt(global);
+            if (!window) {
+                qWarning("ClickAt: no window at %d, %d", global.x(), global.y());
+                return;
+            }
+            QTest::mouseEvent(action, window, Qt::LeftButton, {}, window->mapFromGlobal(global));
+        }
+    }
+}
+
+void PressKey(Qt::Key key, const QString& xKey, int times, int delayMs) {
+    if (OnRealDisplay()) {
+        Xdotool({QStringLiteral("key"), QStringLiteral("--repeat"), QString::number(times),
+                 QStringLiteral("--repeat-delay"), QString::number(delayMs), xKey});
+        HandleWhatTheServerSent();
+        return;
+    }
+    for (int i = 0; i < times; ++i) {
+        QWindow* window = QGuiApplication::focusWindow();
+        if (!window) {
+            qWarning("PressKey: no window has the keyboard");
+            return;
+        }
+        QTest::keyClick(window, key);
+        QTest::qWait(delayMs);
+    }
+}
 
 QWidget* VisiblePopup() {
     for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -151,6 +231,16 @@ void ClickEditButton(QAbstractItemView* view, int row) {
     // only while the pointer is on the row.
     const QPoint button(rect.right() - 20, rect.center().y());
     QTest::mouseMove(view->viewport(), button);
+    if (OnRealDisplay()) {
+        // The X server moves the pointer (a warp from outside the window is an
+        // entry, not a motion, and rows hover on motion): on by a pixel and
+        // back, as a hand coming to rest does, and the row hears of it.
+        for (const QPoint step : {QPoint(1, 0), QPoint(0, 0)}) {
+            QTest::qWait(50);
+            QTest::mouseMove(view->viewport(), button + step);
+        }
+        QTest::qWait(100);
+    }
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, button);
 }
 

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <Qt>
+
 #include <QList>
 #include <QString>
 #include <QStringList>
 
 class QAbstractItemView;
+class QPoint;
 class QComboBox;
 class QDialog;
 class QPushButton;
@@ -49,6 +52,19 @@ void ClickRow(QAbstractItemView* view, int row);
 // Rests the pointer on the row's edit button (shown while the row is hovered)
 // and clicks it; an editor it opens runs modally inside this call.
 void ClickEditButton(QAbstractItemView* view, int row);
+
+// Whether the windows are on a real X server (the xcb platform), where the
+// user's clicks and keys below go through the server with xdotool, and with it
+// through the window manager, as a person's do. Elsewhere they go to the
+// window at that point of the screen as the window system's events.
+bool OnRealDisplay();
+// Clicks the left button at a point of the screen; count 2 is a double-click
+// (within the platform's double-click interval). Returns once the clicks have
+// been made and the events they caused handled.
+void ClickAt(const QPoint& global, int count = 1);
+// Presses and releases a key times times, delayMs apart, in the window that has
+// the keyboard. xKey is the key's X name (as xdotool takes it).
+void PressKey(Qt::Key key, const QString& xKey, int times, int delayMs);
 
 // A box of a dialog by object name, and the user's way to pick its next item
 // (or the previous one at the end of the list): the arrow keys.

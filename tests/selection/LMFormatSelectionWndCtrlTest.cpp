@@ -18,16 +18,21 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QCursor>
 #include <QFile>
+#include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStyleHints>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -40,6 +45,48 @@ struct Completion {
     std::shared_ptr<const ILMFormatPreset> preset;
     std::shared_ptr<const ILMFormatNode> node;
 };
+
+// A host window that notes every mouse press, release and double-click that
+// reaches it, with a line edit for typing and a "Format" button to anchor the
+// popup to.
+class RecordingHost : public QWidget {
+public:
+    RecordingHost() {
+        setGeometry(40, 40, 1000, 700);
+        anchor = new QPushButton(QStringLiteral("Format"), this);
+        anchor->setGeometry(20, 20, 120, 30);
+        field = new QLineEdit(this);
+        field->setGeometry(900, 20, 80, 30);
+    }
+
+    // The anchor's rectangle on the screen, as a host hands it to the popup.
+    QRectF anchorRect() const { return {anchor->mapToGlobal(QPoint(0, 0)), anchor->size()}; }
+
+    QList<QEvent::Type> received;
+    QPushButton* anchor = nullptr;
+    QLineEdit* field = nullptr;
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override { note(event); }
+    void mouseReleaseEvent(QMouseEvent* event) override { note(event); }
+    void mouseDoubleClickEvent(QMouseEvent* event) override { note(event); }
+
+private:
+    void note(QMouseEvent* event) {
+        received.append(event->type());
+        event->accept();
+    }
+};
+
+// The window system's way with a button: the event goes to the window that is
+// at that point of the screen, the popup above the host while it shows.
+QWindow* WindowAt(const QList<QWidget*>& topDown, const QPoint& global) {
+    for (QWidget* window : topDown) {
+        if (window->isVisible() && window->geometry().contains(global))
+            return window->windowHandle();
+    }
+    return nullptr;
+}
 
 QJsonObject Preset(const QString& title, const QString& description) {
     return {{QStringLiteral("title"), title},
@@ -120,6 +167,12 @@ protected:
             completions.push_back({preset, node});
         });
         QApplication::processEvents();
+        // A window manager maps the window and then places it: until it is
+        // where it was asked to be, a point mapped to the screen misses.
+        const QRect frame = ctrl->frameFromRect(QRectF(100, 100, 120, 30));
+        EXPECT_TRUE(QTest::qWaitFor([this, frame] {
+            return ctrl->isVisible() && ctrl->geometry() == frame;
+        })) << "the popup did not settle at its place";
     }
 
     QStringList TabTitles() const {
@@ -153,10 +206,19 @@ protected:
     static void ClickEdit(LMFormatCollectionView* view, int row,
                           std::function<void()> whileEditing) {
         const QRect rect = view->visualRect(view->model()->index(row, 0));
-        QTest::mouseMove(view->viewport(), rect.center());
+        // On a real display the pointer moves through the X server, and the
+        // row learns of it a round trip later, from a motion inside the list
+        // (entering the window alone is no motion): the pointer moves to the
+        // row, then one pixel at a time as a hand would, until the row shows
+        // its buttons.
+        const QPoint target = view->viewport()->mapToGlobal(rect.center());
+        int step = 0;
+        ASSERT_TRUE(QTest::qWaitFor([view, row, target, &step] {
+            QCursor::setPos(target + QPoint(++step % 2, 0));
+            const LMFormatDataViewItem* hovered = view->itemAtIndex(row);
+            return hovered && hovered->showEditing();
+        }));
         LMFormatDataViewItem* item = view->itemAtIndex(row);
-        ASSERT_NE(item, nullptr);
-        ASSERT_TRUE(item->showEditing());
         const QRect button =
             item->dataView()->actionButtonGeometry(LMFormatDataView::ActionButton::Edit);
         ASSERT_FALSE(button.isEmpty());
@@ -219,6 +281,46 @@ protected:
             LMFormatEditingWndCtrl::shared()->findChild<QAbstractButton*>(QLatin1StringView(name));
         ASSERT_NE(button, nullptr) << name;
         QTest::mouseClick(button, Qt::LeftButton);
+    }
+
+    // Shows host and waits until the window system has placed it.
+    static void ShowHost(RecordingHost& host) {
+        host.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&host));
+    }
+
+    // A press, a release or a whole click of the left button at a point of the
+    // screen, on whichever window is there: the popup, else the host.
+    void PressAt(RecordingHost& host, const QPoint& global) {
+        Button(host, global, QTest::MousePress);
+    }
+    void ReleaseAt(RecordingHost& host, const QPoint& global) {
+        Button(host, global, QTest::MouseRelease);
+    }
+    void ClickAt(RecordingHost& host, const QPoint& global) {
+        Button(host, global, QTest::MouseClick);
+    }
+    // Press, release, press (a double-click by then) and release.
+    void DoubleClickAt(RecordingHost& host, const QPoint& global) {
+        Button(host, global, QTest::MouseDClick);
+    }
+
+    void Button(RecordingHost& host, const QPoint& global, QTest::MouseAction action) {
+        QWindow* window = WindowAt({ctrl, &host}, global);
+        ASSERT_NE(window, nullptr);
+        QTest::mouseEvent(action, window, Qt::LeftButton, {}, window->mapFromGlobal(global));
+    }
+
+    // The middle of a preset row of the first category, on the screen.
+    QPoint PresetRowOnScreen(int row) const {
+        LMFormatCollectionView* list = d->defFmtViewCtrls().first()->fmtListView();
+        const QRect rect = list->visualRect(list->model()->index(row, 0));
+        return list->viewport()->mapToGlobal(rect.center() - QPoint(40, 0));
+    }
+
+    // Waits out the double-click interval: a click after it is a new one.
+    static void WaitOutTheDoubleClickInterval() {
+        QTest::qWait(QGuiApplication::styleHints()->mouseDoubleClickInterval() + 100);
     }
 
     QTemporaryDir dir;
@@ -379,6 +481,131 @@ TEST_F(LMFormatSelectionWndCtrlTest, ClickingOutsideThePopupHidesItAndReportsADi
     ctrl->windowDidResignKey();
     EXPECT_EQ(completions.size(), 1u);
     EXPECT_TRUE(ILMFmtPresetDataSource::Shared()->GetRecentList().empty());
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, AChoiceByAPressKeepsTheRestOfItsDoubleClickOffTheHostBelow) {
+    LoadDefault();
+    RecordingHost host;
+    ShowHost(host);
+    Popup();
+    const QPoint row = PresetRowOnScreen(1);
+    ASSERT_TRUE(host.geometry().contains(row));
+
+    // The press chooses and the popup goes; the rest of the double-click
+    // happens where the popup was, over the host.
+    PressAt(host, row);
+    EXPECT_FALSE(ctrl->isVisible());
+    ASSERT_EQ(completions.size(), 1u);
+    EXPECT_NE(completions[0].preset, nullptr);
+    ReleaseAt(host, row);
+    DoubleClickAt(host, row);
+    EXPECT_TRUE(host.received.isEmpty()) << host.received.size() << " events reached the host";
+    EXPECT_EQ(completions.size(), 1u);
+
+    // A click of its own, once the interval is over, is the host's again.
+    WaitOutTheDoubleClickInterval();
+    ClickAt(host, row);
+    EXPECT_EQ(host.received,
+              (QList<QEvent::Type>{QEvent::MouseButtonPress, QEvent::MouseButtonRelease}));
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, ADoubleClickOutsideThePopupDismissesItAndReachesNothing) {
+    LoadDefault();
+    RecordingHost host;
+    ShowHost(host);
+    Popup();
+    const QPoint outside = host.mapToGlobal(QPoint(950, 650));
+    ASSERT_FALSE(ctrl->geometry().contains(outside));
+
+    DoubleClickAt(host, outside);
+    EXPECT_FALSE(ctrl->isVisible());
+    ASSERT_EQ(completions.size(), 1u);
+    EXPECT_EQ(completions[0].preset, nullptr);
+    EXPECT_EQ(completions[0].node, nullptr);
+    EXPECT_TRUE(host.received.isEmpty()) << host.received.size() << " events reached the host";
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, APressOnTheHostsAnchorClosesThePopupWithoutClickingTheAnchor) {
+    LoadDefault();
+    RecordingHost host;
+    int opened = 0;
+    QObject::connect(host.anchor, &QPushButton::clicked, &host, [&] {
+        ++opened;
+        ctrl->popupSelection(host.anchorRect(), [this](auto preset, auto node) {
+            completions.push_back({preset, node});
+        });
+    });
+    ShowHost(host);
+    const QPoint anchor = host.anchor->mapToGlobal(host.anchor->rect().center());
+    ClickAt(host, anchor);
+    ASSERT_EQ(opened, 1);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return ctrl->isVisible(); }));
+
+    // The host's button toggles the popup: the click that lands on it while
+    // the popup shows only closes it.
+    ClickAt(host, anchor);
+    EXPECT_FALSE(ctrl->isVisible());
+    EXPECT_EQ(opened, 1);
+    ASSERT_EQ(completions.size(), 1u);
+    EXPECT_EQ(completions[0].preset, nullptr);
+
+    // With the popup closed, the button opens it again.
+    WaitOutTheDoubleClickInterval();
+    ClickAt(host, anchor);
+    EXPECT_EQ(opened, 2);
+    EXPECT_TRUE(ctrl->isVisible());
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, KeysStillReachTheHostWhileTheRestOfAClickIsKeptFromIt) {
+    LoadDefault();
+    RecordingHost host;
+    ShowHost(host);
+    Popup();
+    const QPoint row = PresetRowOnScreen(0);
+    PressAt(host, row);
+    ASSERT_FALSE(ctrl->isVisible());
+    QTest::keyClicks(host.field, QStringLiteral("ok"));
+    EXPECT_EQ(host.field->text(), QStringLiteral("ok"));
+    ReleaseAt(host, row);
+    EXPECT_TRUE(host.received.isEmpty());
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, AChoiceByTheKeyboardLeavesTheNextClickToTheHost) {
+    LoadDefault();
+    RecordingHost host;
+    ShowHost(host);
+    Popup();
+    LMFormatCollectionView* list = d->defFmtViewCtrls().first()->fmtListView();
+    list->setCurrentIndex(list->model()->index(1, 0));
+    QTest::keyClick(list, Qt::Key_Return);
+    ASSERT_EQ(completions.size(), 1u);
+    ASSERT_FALSE(ctrl->isVisible());
+
+    ClickAt(host, PresetRowOnScreen(1));
+    EXPECT_EQ(host.received,
+              (QList<QEvent::Type>{QEvent::MouseButtonPress, QEvent::MouseButtonRelease}));
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest,
+       ShowingAgainCompletesTheShowingStillOpenWithEmptyHandlesFirst) {
+    LoadDefault();
+    std::vector<std::string> calls;
+    const auto handler = [&calls](const char* name) {
+        return [&calls, name](auto preset, auto node) {
+            calls.push_back(std::string(name) + (preset || node ? ": chosen" : ": dismissed"));
+        };
+    };
+    ctrl->popupSelection(QRectF(100, 100, 120, 30), handler("first"));
+    ctrl->popupSelection(QRectF(100, 100, 120, 30), handler("second"));
+    EXPECT_EQ(calls, std::vector<std::string>{"first: dismissed"});
+    EXPECT_TRUE(ctrl->isVisible());
+    ClickRow(d->defFmtViewCtrls().first()->fmtListView(), 0);
+    EXPECT_EQ(calls, (std::vector<std::string>{"first: dismissed", "second: chosen"}));
+    // A showing that ended is not completed again by the next one.
+    ctrl->popupSelection(QRectF(100, 100, 120, 30), handler("third"));
+    EXPECT_EQ(calls.size(), 2u);
+    ctrl->windowDidResignKey();
+    EXPECT_EQ(calls.back(), "third: dismissed");
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, EscapeDismissesThePopup) {

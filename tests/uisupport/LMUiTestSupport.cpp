@@ -7,6 +7,9 @@
 #include "LMSingleton_p.h"
 
 #include <QApplication>
+#include <QCursor>
+#include <QScreen>
+#include <QTest>
 #include <QWidget>
 
 namespace Lumeran::TestSupport {
@@ -34,9 +37,24 @@ void ClearSharedLists() {
     source->SaveCustomList();
 }
 
+void ParkPointer() {
+    // The bottom right corner of the screen: the tests' windows sit at its top
+    // left. On a real display the pointer stays where the last case left it,
+    // over a cell it would hover or a window it would enter.
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (!screen)
+        return;
+    const QPoint corner = screen->geometry().bottomRight();
+    QCursor::setPos(corner);
+    // On X the move goes through the server: wait until the pointer is there.
+    if (!QTest::qWaitFor([corner] { return QCursor::pos() == corner; }, 1000))
+        ADD_FAILURE() << "the pointer did not move to the corner of the screen";
+}
+
 void UiTest::SetUp() {
-    // Every case starts as in a process of its own: no windows, no catalogue and
-    // lists read from this case's settings.
+    // Every case starts as in a process of its own: no windows, no catalogue,
+    // lists read from this case's settings and the pointer out of the way.
+    ParkPointer();
     LMSingletons::ResetForTesting();
     ClearSharedLists();
     LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageEnglish);

@@ -17,8 +17,13 @@ void LoadDefaultCatalogueIntoSharedDataSource();
 // test that runs after another in the same process starts from nothing.
 void ClearSharedLists();
 
+// Moves the pointer to the bottom right corner of the screen, away from every
+// window a test shows, and waits until it is there.
+void ParkPointer();
+
 // Fixture of the widget tests: a settings file of its own, empty recent and
-// custom lists, the English language, and nothing left over for the next test.
+// custom lists, the English language, the pointer parked (ParkPointer), and
+// nothing left over for the next test.
 class UiTest : public ::testing::Test {
 protected:
     void SetUp() override;
