@@ -308,10 +308,16 @@ void LMFmtNodeViewCtrl::resetCollectionViewMouseState(LMFormatCollectionView* vi
     }
 }
 
-// A search that leaves nothing to show says so, rather than showing blank lists.
+// Empty lists say why, rather than showing blank: a search that found nothing,
+// or a Custom tab before any preset was saved.
 void LMFmtNodeViewCtrl::updateEmptyText() {
-    const bool nothingFound = d->searchFmtNode && fmtListView()->numberOfItems() == 0;
-    fmtListView()->setEmptyText(
-        nothingFound ? lizationMgr()->stringForKey(QStringLiteral("No matching presets"))
-                     : QString());
+    const bool empty = fmtListView()->numberOfItems() == 0;
+    QString hint;
+    if (d->searchFmtNode && empty)
+        hint = QStringLiteral("No matching presets");
+    else if (!d->searchFmtNode && empty && d->rootFmtNode &&
+             d->rootFmtNode ==
+                 std::as_const(*Lumeran::ILMFmtPresetDataSource::Shared()).GetCustomList())
+        hint = QStringLiteral("Presets you save with “Save as New Preset” appear here.");
+    fmtListView()->setEmptyText(hint.isEmpty() ? hint : lizationMgr()->stringForKey(hint));
 }

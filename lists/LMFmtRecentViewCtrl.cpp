@@ -170,10 +170,13 @@ void LMFmtRecentViewCtrl::scrollViewPortDidChanged() {
     }
 }
 
-// A search that leaves nothing to show says so, rather than showing a blank list.
+// An empty list says why, rather than showing blank: a search that found
+// nothing, or no choice made yet.
 void LMFmtRecentViewCtrl::updateEmptyText() {
-    const bool nothingFound = d->searchRecentList && d->searchRecentList->empty();
-    recentListView()->setEmptyText(
-        nothingFound ? lizationMgr()->stringForKey(QStringLiteral("No matching presets"))
-                     : QString());
+    QString hint;
+    if (d->searchRecentList && d->searchRecentList->empty())
+        hint = QStringLiteral("No matching presets");
+    else if (!d->searchRecentList && recentListView()->numberOfItems() == 0)
+        hint = QStringLiteral("The presets you choose appear here.");
+    recentListView()->setEmptyText(hint.isEmpty() ? hint : lizationMgr()->stringForKey(hint));
 }

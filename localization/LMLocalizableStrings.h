@@ -80,7 +80,7 @@ public:
     // Keys that are looked up but not bound: the titles and descriptions of the
     // default catalogue and of the lists the data source makes, the option names
     // of the preset editor, and the words of the popup and the editor.
-    static constexpr std::array<const char*, 39> otherKeys{
+    static constexpr std::array<const char*, 41> otherKeys{
         // Titles and descriptions of the default catalogue.
         QT_TRANSLATE_NOOP("Localizable", "Smartphone"),
         QT_TRANSLATE_NOOP("Localizable", "Tablet"),
@@ -113,6 +113,8 @@ public:
         QT_TRANSLATE_NOOP("Localizable", "Edit"),
         QT_TRANSLATE_NOOP("Localizable", "Remove"),
         QT_TRANSLATE_NOOP("Localizable", "Loading formats…"),
+        QT_TRANSLATE_NOOP("Localizable", "The presets you choose appear here."),
+        QT_TRANSLATE_NOOP("Localizable", "Presets you save with “Save as New Preset” appear here."),
         QT_TRANSLATE_NOOP("Localizable", "No matching presets"),
         QT_TRANSLATE_NOOP("Localizable", "Choose a format"),
         QT_TRANSLATE_NOOP("Localizable", "Format"),

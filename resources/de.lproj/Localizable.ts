@@ -308,6 +308,14 @@
         <translation>Formate werden geladen …</translation>
     </message>
     <message>
+        <source>The presets you choose appear here.</source>
+        <translation>Hier erscheinen die Voreinstellungen, die Sie wählen.</translation>
+    </message>
+    <message>
+        <source>Presets you save with “Save as New Preset” appear here.</source>
+        <translation>Hier erscheinen Voreinstellungen, die Sie mit „Als neue Voreinstellung speichern“ sichern.</translation>
+    </message>
+    <message>
         <source>No matching presets</source>
         <translation>Keine passenden Voreinstellungen</translation>
     </message>

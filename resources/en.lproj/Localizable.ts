@@ -308,6 +308,14 @@
         <translation>Loading formats…</translation>
     </message>
     <message>
+        <source>The presets you choose appear here.</source>
+        <translation>The presets you choose appear here.</translation>
+    </message>
+    <message>
+        <source>Presets you save with “Save as New Preset” appear here.</source>
+        <translation>Presets you save with “Save as New Preset” appear here.</translation>
+    </message>
+    <message>
         <source>No matching presets</source>
         <translation>No matching presets</translation>
     </message>

@@ -308,6 +308,14 @@
         <translation>Cargando formatos…</translation>
     </message>
     <message>
+        <source>The presets you choose appear here.</source>
+        <translation>Aquí aparecen los preajustes que elija.</translation>
+    </message>
+    <message>
+        <source>Presets you save with “Save as New Preset” appear here.</source>
+        <translation>Aquí aparecen los preajustes que guarde con «Guardar como nuevo preajuste».</translation>
+    </message>
+    <message>
         <source>No matching presets</source>
         <translation>No hay preajustes que coincidan</translation>
     </message>

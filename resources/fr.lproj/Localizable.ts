@@ -308,6 +308,14 @@
         <translation>Chargement des formats…</translation>
     </message>
     <message>
+        <source>The presets you choose appear here.</source>
+        <translation>Les préréglages que vous choisissez apparaissent ici.</translation>
+    </message>
+    <message>
+        <source>Presets you save with “Save as New Preset” appear here.</source>
+        <translation>Les préréglages enregistrés avec « Enregistrer comme nouveau préréglage » apparaissent ici.</translation>
+    </message>
+    <message>
         <source>No matching presets</source>
         <translation>Aucun préréglage correspondant</translation>
     </message>

@@ -308,6 +308,14 @@
         <translation>Caricamento dei formati…</translation>
     </message>
     <message>
+        <source>The presets you choose appear here.</source>
+        <translation>Qui compaiono le preimpostazioni che scegli.</translation>
+    </message>
+    <message>
+        <source>Presets you save with “Save as New Preset” appear here.</source>
+        <translation>Qui compaiono le preimpostazioni salvate con «Salva come nuova preimpostazione».</translation>
+    </message>
+    <message>
         <source>No matching presets</source>
         <translation>Nessuna preimpostazione corrispondente</translation>
     </message>

@@ -308,6 +308,14 @@
         <translation>フォーマットを読み込んでいます…</translation>
     </message>
     <message>
+        <source>The presets you choose appear here.</source>
+        <translation>選択したプリセットがここに表示されます。</translation>
+    </message>
+    <message>
+        <source>Presets you save with “Save as New Preset” appear here.</source>
+        <translation>「新規プリセットとして保存」で保存したプリセットがここに表示されます。</translation>
+    </message>
+    <message>
         <source>No matching presets</source>
         <translation>一致するプリセットはありません</translation>
     </message>

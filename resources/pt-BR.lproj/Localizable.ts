@@ -308,6 +308,14 @@
         <translation>Carregando formatos…</translation>
     </message>
     <message>
+        <source>The presets you choose appear here.</source>
+        <translation>As predefinições que você escolher aparecem aqui.</translation>
+    </message>
+    <message>
+        <source>Presets you save with “Save as New Preset” appear here.</source>
+        <translation>As predefinições salvas com “Salvar como nova predefinição” aparecem aqui.</translation>
+    </message>
+    <message>
         <source>No matching presets</source>
         <translation>Nenhuma predefinição correspondente</translation>
     </message>

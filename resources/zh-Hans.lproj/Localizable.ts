@@ -308,6 +308,14 @@
         <translation>正在载入格式…</translation>
     </message>
     <message>
+        <source>The presets you choose appear here.</source>
+        <translation>您选择的预设会显示在这里。</translation>
+    </message>
+    <message>
+        <source>Presets you save with “Save as New Preset” appear here.</source>
+        <translation>用“另存为新预设”保存的预设会显示在这里。</translation>
+    </message>
+    <message>
         <source>No matching presets</source>
         <translation>没有匹配的预设</translation>
     </message>

@@ -5,6 +5,7 @@
 #include "LMFormatCollectionModel.h"
 #include "LMFormatCollectionView.h"
 #include "LMFormatDataViewItem.h"
+#include "LMFormatInternationalizationMgr.h"
 #include "LMListsTestSupport.h"
 #include "LMUiTestSupport.h"
 
@@ -527,4 +528,18 @@ TEST_F(LMFmtNodeViewCtrlTest, TheFocusedListsCurrentRowShowsAFocusRingEvenWhenSe
     QTest::keyClick(nodes(), Qt::Key_Right);
     ASSERT_TRUE(formats()->hasFocus());
     EXPECT_NE(nodes()->viewport()->grab().toImage().pixelColor(onRing), ring);
+}
+
+TEST_F(LMFmtNodeViewCtrlTest, AnEmptyCustomTabSaysHowPresetsGetThere) {
+    ctrl->setRemovable(true);
+    ctrl->loadFormatNode(ILMFmtPresetDataSource::Shared()->GetCustomList());
+    ASSERT_TRUE(ShowAndWait(ctrl.get()));
+    EXPECT_EQ(formats()->numberOfItems(), 0);
+    EXPECT_EQ(formats()->emptyText(),
+              QStringLiteral("Presets you save with “Save as New Preset” appear here."));
+    LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageFrench);
+    ctrl->loadFormatNode(ILMFmtPresetDataSource::Shared()->GetCustomList());
+    EXPECT_EQ(formats()->emptyText(),
+              QStringLiteral("Les préréglages enregistrés avec « Enregistrer comme nouveau "
+                             "préréglage » apparaissent ici."));
 }

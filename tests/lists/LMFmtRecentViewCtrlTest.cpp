@@ -4,6 +4,7 @@
 #include "ILMFmtPresetDataSource.h"
 #include "LMFormatCollectionView.h"
 #include "LMFormatDataViewItem.h"
+#include "LMFormatInternationalizationMgr.h"
 #include "LMListsTestSupport.h"
 #include "LMUiTestSupport.h"
 
@@ -55,7 +56,8 @@ QStringList StoredTitles() {
 TEST_F(LMFmtRecentViewCtrlTest, WithNoRecentEntriesTheListIsEmptyAndASearchFindsNothing) {
     ASSERT_TRUE(ShowAndWait(ctrl.get()));
     EXPECT_EQ(list()->numberOfItems(), 0);
-    EXPECT_TRUE(list()->emptyText().isEmpty());
+    // An empty Recent tab says what it is for.
+    EXPECT_EQ(list()->emptyText(), QStringLiteral("The presets you choose appear here."));
 
     ctrl->searchRecentList(QStringLiteral("MP4"));
 
@@ -81,6 +83,16 @@ TEST_F(LMFmtRecentViewCtrlTest, ClearingTheSearchShowsTheCurrentRecentListFetche
     EXPECT_EQ(Titles(list()),
               (QStringList{QStringLiteral("MP4 Phone"), QStringLiteral("MP4 HD 720p"),
                            QStringLiteral("MOV ProRes"), QStringLiteral("MKV Archive")}));
+    EXPECT_TRUE(list()->emptyText().isEmpty());
+}
+
+TEST_F(LMFmtRecentViewCtrlTest, AnEmptyRecentTabSaysWhatItIsForInTheLanguageSet) {
+    LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageGerman);
+    ASSERT_TRUE(ShowAndWait(ctrl.get()));
+    EXPECT_EQ(list()->emptyText(),
+              QStringLiteral("Hier erscheinen die Voreinstellungen, die Sie wählen."));
+    Choose({{0, 0}});
+    ctrl->loadRecentList();
     EXPECT_TRUE(list()->emptyText().isEmpty());
 }
 
