@@ -22,6 +22,8 @@ LMDemoConverter::LMDemoConverter(QObject* parent) : QObject(parent) {
 }
 
 LMDemoConverter::~LMDemoConverter() {
+    // Whoever listened may be going away too: nothing is announced any more.
+    m_process.disconnect(this);
     cancel();
 }
 
@@ -66,6 +68,7 @@ bool LMDemoConverter::isRunning() const {
 void LMDemoConverter::cancel() {
     if (!isRunning())
         return;
+    m_cancelled = true;
     m_process.kill();
     m_process.waitForFinished(3000);
 }
@@ -100,6 +103,12 @@ void LMDemoConverter::readProgress() {
 }
 
 void LMDemoConverter::processFinished(int exitCode, QProcess::ExitStatus status) {
+    if (m_cancelled) {
+        m_cancelled = false;
+        QFile::remove(m_output); // half a file is no file
+        Q_EMIT finished(false, QStringLiteral("Cancelled"));
+        return;
+    }
     readErrors();
     if (status == QProcess::NormalExit && exitCode == 0) {
         Q_EMIT finished(true, m_output);

@@ -27,6 +27,8 @@ public:
     // preset cannot be encoded.
     bool start(const QString& source, std::shared_ptr<const Lumeran::ILMFormatPreset> preset);
     bool isRunning() const;
+    // Stops a running encode and removes what it wrote; finished() then says
+    // "Cancelled".
     void cancel();
 
 Q_SIGNALS:
@@ -45,4 +47,5 @@ private:
     QString m_errors;
     QByteArray m_pending;
     qint64 m_durationUs = 0;
+    bool m_cancelled = false;
 };

@@ -39,9 +39,11 @@ LMDemoHostWindow::LMDemoHostWindow(QWidget* parent)
       m_editButton(new QPushButton(QStringLiteral("Edit…"), this)), m_description(new QLabel(this)),
       m_arguments(new QPlainTextEdit(this)),
       m_convertButton(new QPushButton(QStringLiteral("Convert"), this)),
+      m_cancelButton(new QPushButton(QStringLiteral("Cancel"), this)),
       m_progress(new QProgressBar(this)), m_status(new QLabel(this)),
       m_languages(new QActionGroup(this)), m_converter(new LMDemoConverter(this)) {
-    setWindowTitle(QStringLiteral("Format Demo — a small converter"));
+    // The window system adds the application's display name ("Format Demo").
+    setWindowTitle(QStringLiteral("A small converter"));
     auto* central = new QWidget(this);
     auto* layout = new QVBoxLayout(central);
     layout->setContentsMargins(24, 20, 24, 20);
@@ -109,11 +111,14 @@ QHBoxLayout* LMDemoHostWindow::buildConvertRow() {
     m_convertButton->setDefault(true);
     m_convertButton->setEnabled(false);
     connect(m_convertButton, &QPushButton::clicked, this, &LMDemoHostWindow::convert);
+    m_cancelButton->setEnabled(false);
+    connect(m_cancelButton, &QPushButton::clicked, m_converter, &LMDemoConverter::cancel);
     m_progress->setRange(0, 1000);
     m_progress->setValue(0);
     m_progress->setTextVisible(false);
     convertRow->addWidget(m_convertButton);
     convertRow->addWidget(m_progress, 1);
+    convertRow->addWidget(m_cancelButton);
     return convertRow;
 }
 
@@ -213,6 +218,7 @@ void LMDemoHostWindow::convert() {
         return;
     }
     m_convertButton->setEnabled(false);
+    m_cancelButton->setEnabled(true);
     m_status->setText(QStringLiteral("Converting to ") +
                       LMDemoConverter::outputPathFor(m_source->text(), m_preset) +
                       QStringLiteral(" …"));
@@ -220,8 +226,12 @@ void LMDemoHostWindow::convert() {
 
 void LMDemoHostWindow::conversionFinished(bool ok, const QString& outputOrError) {
     m_convertButton->setEnabled(true);
+    m_cancelButton->setEnabled(false);
     m_progress->setRange(0, 1000);
-    if (ok) {
+    if (!ok && outputOrError == QStringLiteral("Cancelled")) {
+        m_progress->setValue(0);
+        m_status->setText(QStringLiteral("Cancelled: nothing was written."));
+    } else if (ok) {
         m_progress->setValue(1000);
         m_status->setText(QStringLiteral("Done: ") + outputOrError);
     } else {

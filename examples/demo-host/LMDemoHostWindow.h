@@ -36,6 +36,7 @@ public:
     QPushButton* formatButton() const { return m_formatButton; }
     QPushButton* editButton() const { return m_editButton; }
     QPushButton* convertButton() const { return m_convertButton; }
+    QPushButton* cancelButton() const { return m_cancelButton; }
     LMDemoConverter* converter() const { return m_converter; }
     std::shared_ptr<Lumeran::ILMFormatPreset> currentPreset() const { return m_preset; }
     std::shared_ptr<const Lumeran::ILMFormatNode> currentNode() const { return m_node; }
@@ -63,6 +64,7 @@ private:
     QLabel* m_description;
     QPlainTextEdit* m_arguments;
     QPushButton* m_convertButton;
+    QPushButton* m_cancelButton;
     QProgressBar* m_progress;
     QLabel* m_status;
     QActionGroup* m_languages;

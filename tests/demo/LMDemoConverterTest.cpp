@@ -89,3 +89,22 @@ TEST_F(LMDemoConverterTest, ASourceNamedLikeTheOutputIsNeverOverwritten) {
     EXPECT_NE(output, source);
     EXPECT_EQ(output, dir.filePath(QStringLiteral("clip-converted-converted.wav")));
 }
+
+TEST_F(LMDemoConverterTest, ARunningConversionCanBeCancelledAndLeavesNoOutput) {
+    const QString clip = dir.filePath(QStringLiteral("clip.mp4"));
+    ASSERT_TRUE(MakeClip(clip));
+    LMDemoConverter converter;
+    QSignalSpy finished(&converter, &LMDemoConverter::finished);
+    ASSERT_TRUE(converter.start(clip, ILMFormatPreset::MallocFormatPreset("WAV", "High Quality")));
+    ASSERT_TRUE(converter.isRunning());
+    converter.cancel();
+    EXPECT_FALSE(converter.isRunning());
+    ASSERT_EQ(finished.size(), 1);
+    EXPECT_FALSE(finished.first().at(0).toBool());
+    EXPECT_EQ(finished.first().at(1).toString(), QStringLiteral("Cancelled"));
+    EXPECT_FALSE(QFileInfo::exists(dir.filePath(QStringLiteral("clip-converted.wav"))));
+    // The next encode runs as usual.
+    ASSERT_TRUE(converter.start(clip, ILMFormatPreset::MallocFormatPreset("WAV", "High Quality")));
+    ASSERT_TRUE(finished.wait(60000));
+    EXPECT_TRUE(finished.last().at(0).toBool());
+}
