@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "LMStableHash.h"
 
+#include <bit>
+#include <cstring>
+
 namespace Lumeran {
 
 namespace {
@@ -19,14 +22,18 @@ constexpr std::uint64_t RotateLeft(std::uint64_t value, int bits) {
 // change with it.
 std::uint64_t Read64(const unsigned char* at) {
     std::uint64_t word = 0;
-    for (int i = 7; i >= 0; --i)
-        word = word << 8 | at[i];
+    std::memcpy(&word, at, sizeof word);
+    if constexpr (std::endian::native == std::endian::big)
+        word = __builtin_bswap64(word);
     return word;
 }
 
 std::uint32_t Read32(const unsigned char* at) {
-    return std::uint32_t(at[0]) | std::uint32_t(at[1]) << 8 | std::uint32_t(at[2]) << 16 |
-           std::uint32_t(at[3]) << 24;
+    std::uint32_t word = 0;
+    std::memcpy(&word, at, sizeof word);
+    if constexpr (std::endian::native == std::endian::big)
+        word = __builtin_bswap32(word);
+    return word;
 }
 
 std::uint64_t Round(std::uint64_t accumulator, std::uint64_t word) {

@@ -124,8 +124,13 @@ std::string ILMBase64Codec::Encode(std::string_view data) {
 }
 
 std::string ILMBase64Codec::Decode(std::string_view text) {
+    // White space is never valid in itself: text that decodes as it stands has
+    // none, so it is only looked for in text that does not.
+    std::string decoded;
+    if (Strict(text, &decoded))
+        return decoded;
     if (std::none_of(text.begin(), text.end(), IsSpace))
-        return Strict(text);
+        return {};
     std::string compact;
     compact.reserve(text.size());
     std::copy_if(text.begin(), text.end(), std::back_inserter(compact),
