@@ -20,19 +20,16 @@ constexpr std::uint64_t RotateLeft(std::uint64_t value, int bits) {
 
 // Words are read as little-endian whatever the machine, so the hash does not
 // change with it.
-std::uint64_t Read64(const unsigned char* at) {
-    std::uint64_t word = 0;
+template <typename Word>
+Word ReadLittleEndian(const unsigned char* at) {
+    Word word = 0;
     std::memcpy(&word, at, sizeof word);
-    if constexpr (std::endian::native == std::endian::big)
-        word = __builtin_bswap64(word);
-    return word;
-}
-
-std::uint32_t Read32(const unsigned char* at) {
-    std::uint32_t word = 0;
-    std::memcpy(&word, at, sizeof word);
-    if constexpr (std::endian::native == std::endian::big)
-        word = __builtin_bswap32(word);
+    if constexpr (std::endian::native == std::endian::big) {
+        if constexpr (sizeof word == 8)
+            word = __builtin_bswap64(word);
+        else
+            word = __builtin_bswap32(word);
+    }
     return word;
 }
 
@@ -61,10 +58,10 @@ std::uint64_t LMStableHash::Of(std::string_view bytes) {
         std::uint64_t lane4 = 0 - kPrime1;
         const unsigned char* const lastStripe = end - 32;
         do {
-            lane1 = Round(lane1, Read64(at));
-            lane2 = Round(lane2, Read64(at + 8));
-            lane3 = Round(lane3, Read64(at + 16));
-            lane4 = Round(lane4, Read64(at + 24));
+            lane1 = Round(lane1, ReadLittleEndian<std::uint64_t>(at));
+            lane2 = Round(lane2, ReadLittleEndian<std::uint64_t>(at + 8));
+            lane3 = Round(lane3, ReadLittleEndian<std::uint64_t>(at + 16));
+            lane4 = Round(lane4, ReadLittleEndian<std::uint64_t>(at + 24));
             at += 32;
         } while (at <= lastStripe);
         hash = RotateLeft(lane1, 1) + RotateLeft(lane2, 7) + RotateLeft(lane3, 12) +
@@ -78,11 +75,11 @@ std::uint64_t LMStableHash::Of(std::string_view bytes) {
     }
     hash += size;
     for (; at + 8 <= end; at += 8) {
-        hash ^= Round(0, Read64(at));
+        hash ^= Round(0, ReadLittleEndian<std::uint64_t>(at));
         hash = RotateLeft(hash, 27) * kPrime1 + kPrime4;
     }
     if (at + 4 <= end) {
-        hash ^= std::uint64_t(Read32(at)) * kPrime1;
+        hash ^= std::uint64_t(ReadLittleEndian<std::uint32_t>(at)) * kPrime1;
         hash = RotateLeft(hash, 23) * kPrime2 + kPrime3;
         at += 4;
     }

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace Lumeran {
 
@@ -21,6 +22,17 @@ constexpr std::array<std::uint8_t, 256> MakeSextets() {
     return table;
 }
 constexpr std::array<std::uint8_t, 256> kSextets = MakeSextets();
+
+// The two characters of every 12 bits: a group of three bytes is written with
+// two look-ups instead of four.
+using CharPair = std::array<char, 2>;
+constexpr std::array<CharPair, 4096> MakePairs() {
+    std::array<CharPair, 4096> pairs{};
+    for (std::size_t i = 0; i < pairs.size(); ++i)
+        pairs[i] = {kAlphabet[i >> 6], kAlphabet[i & 63]};
+    return pairs;
+}
+constexpr std::array<CharPair, 4096> kPairs = MakePairs();
 
 bool IsSpace(char c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f' || c == '\v';
@@ -106,10 +118,9 @@ std::string ILMBase64Codec::Encode(std::string_view data) {
     for (; i + 3 <= data.size(); i += 3) {
         const std::uint32_t bits = std::uint32_t(read[i]) << 16 | std::uint32_t(read[i + 1]) << 8 |
                                    std::uint32_t(read[i + 2]);
-        *write++ = kAlphabet[bits >> 18];
-        *write++ = kAlphabet[(bits >> 12) & 63];
-        *write++ = kAlphabet[(bits >> 6) & 63];
-        *write++ = kAlphabet[bits & 63];
+        std::memcpy(write, kPairs[bits >> 12].data(), 2);
+        std::memcpy(write + 2, kPairs[bits & 0xFFF].data(), 2);
+        write += 4;
     }
     if (const std::size_t rest = data.size() - i; rest > 0) {
         std::uint32_t bits = std::uint32_t(read[i]) << 16;

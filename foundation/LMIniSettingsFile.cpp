@@ -13,10 +13,12 @@
 
 #include <array>
 #include <cerrno>
+#include <climits>
 #include <cstring>
 #include <ctime>
 #include <string_view>
 #include <sys/stat.h>
+#include <sys/uio.h>
 
 #ifdef __SSE2__
 #include <emmintrin.h>
@@ -399,22 +401,6 @@ void LMIniSettingsFile::Parse(const std::string& text) {
     }
 }
 
-std::string LMIniSettingsFile::Compose() const {
-    const std::string_view end = m_crlf ? "\r\n" : "\n";
-    std::size_t size = m_bom ? std::strlen(kBom) : 0;
-    for (const std::string& line : m_lines)
-        size += line.size() + end.size();
-    std::string text;
-    text.reserve(size);
-    if (m_bom)
-        text += kBom;
-    for (const std::string& line : m_lines) {
-        text += line;
-        text += end;
-    }
-    return text;
-}
-
 std::string LMIniSettingsFile::ValueOf(const Entry& entry) const {
     return UnescapeValue(
         std::string_view(m_lines[entry.line]).substr(entry.valueStart, entry.valueSize));
@@ -468,27 +454,30 @@ std::size_t LMIniSettingsFile::InsertionLine(const std::string& section, bool* n
 // length of its own line, not a new reading of the whole file.
 void LMIniSettingsFile::Set(const std::string& key, const std::string& value) {
     const auto [section, name] = SplitKey(key);
-    Entry entry;
-    entry.key = key;
-    std::string line = EscapeKey(name);
-    line += '=';
-    entry.valueStart = line.size();
-    AppendEscapedValue(line, value);
-    entry.valueSize = line.size() - entry.valueStart;
-    if (entry.valueSize == 0)
-        entry.valueStart = line.size();
-
     std::vector<std::size_t> found; // indices in m_entries, in line order
     for (std::size_t i = 0; i < m_entries.size(); ++i) {
         if (m_entries[i].key == key)
             found.push_back(i);
     }
+    // A line is written over the one it replaces, in its storage: a stored list's
+    // line is megabytes long, and a new one at every save would be taken from
+    // and handed back to the system each time.
+    std::string added;
+    std::string& line = found.empty() ? added : m_lines[m_entries[found.back()].line];
+    line.clear();
+    line += EscapeKey(name);
+    line += '=';
+    Entry entry;
+    entry.key = key;
+    entry.valueStart = line.size();
+    AppendEscapedValue(line, value);
+    entry.valueSize = line.size() - entry.valueStart;
+
     if (!found.empty()) {
         // The last line is the one read; earlier ones are dropped from the file,
         // from the last up so that the indices still to come stay valid.
         Entry& kept = m_entries[found.back()];
         entry.line = kept.line;
-        m_lines[kept.line] = std::move(line);
         kept = std::move(entry);
         for (auto it = found.rbegin() + 1; it != found.rend(); ++it)
             RemoveLine(m_entries[*it].line);
@@ -496,21 +485,21 @@ void LMIniSettingsFile::Set(const std::string& key, const std::string& value) {
     }
     bool newSection = false;
     const std::size_t at = InsertionLine(section, &newSection);
-    std::vector<std::string> added;
+    std::vector<std::string> lines;
     if (newSection) {
         if (at > 0 && !Trim(m_lines[at - 1]).empty())
-            added.emplace_back();
-        added.push_back("[" + (section.empty() ? std::string("General") : EscapeKey(section)) +
+            lines.emplace_back();
+        lines.push_back("[" + (section.empty() ? std::string("General") : EscapeKey(section)) +
                         "]");
     }
-    entry.line = at + added.size();
-    added.push_back(std::move(line));
+    entry.line = at + lines.size();
+    lines.push_back(std::move(added));
     if (newSection && at < m_lines.size())
-        added.emplace_back();
+        lines.emplace_back();
     // As a reading of the file names it: a "General/" prefix names no section.
     if (section == "General")
         entry.key = name;
-    InsertLines(at, std::move(added), std::move(entry));
+    InsertLines(at, std::move(lines), std::move(entry));
 }
 
 void LMIniSettingsFile::RemoveLine(std::size_t line) {
@@ -586,20 +575,54 @@ LMIniSettingsFile::CurrentValues(const std::vector<std::string>& keys) const {
 }
 
 bool LMIniSettingsFile::Commit(std::string* error) const {
-    std::string text = Compose();
     QSaveFile file(QString::fromStdString(m_path));
     file.setDirectWriteFallback(false);
-    // QSaveFile flushes the new file to the disk before it replaces the old one:
-    // the one flush a write makes.
-    const bool written = file.open(QIODevice::WriteOnly) &&
-                         file.write(text.data(), static_cast<qint64>(text.size())) ==
-                             static_cast<qint64>(text.size()) &&
-                         file.flush() && Stamp(file.handle(), m_seen.modifiedNs);
-    std::string().swap(text); // not held while the disk catches up
-    if (written && file.commit())
+    // The lines go to the file as they are held, with no copy of the whole text
+    // in between; QSaveFile flushes the new file to the disk before it replaces
+    // the old one: the one flush a write makes.
+    if (file.open(QIODevice::WriteOnly) && WriteLines(file.handle()) &&
+        Stamp(file.handle(), m_seen.modifiedNs) && file.commit())
         return true;
-    *error = "cannot write " + m_path + ": " + file.errorString().toStdString();
+    *error = "cannot write " + m_path + ": " +
+             (file.error() != QFileDevice::NoError ? file.errorString().toStdString()
+                                                   : std::string(std::strerror(errno)));
     return false;
+}
+
+bool LMIniSettingsFile::WriteLines(int fd) const {
+    const std::string_view end = m_crlf ? "\r\n" : "\n";
+    std::vector<iovec> pieces;
+    pieces.reserve(m_lines.size() * 2 + 1);
+    const auto add = [&pieces](std::string_view piece) {
+        if (!piece.empty())
+            pieces.push_back({const_cast<char*>(piece.data()), piece.size()});
+    };
+    if (m_bom)
+        add(kBom);
+    for (const std::string& line : m_lines) {
+        add(line);
+        add(end);
+    }
+    std::size_t first = 0;
+    while (first < pieces.size()) {
+        const int count = static_cast<int>(std::min<std::size_t>(pieces.size() - first, IOV_MAX));
+        ssize_t written = ::writev(fd, &pieces[first], count);
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        // A short write leaves the rest of a piece and the pieces after it.
+        while (written > 0) {
+            iovec& piece = pieces[first];
+            const auto done = std::min(static_cast<std::size_t>(written), piece.iov_len);
+            piece.iov_base = static_cast<char*>(piece.iov_base) + done;
+            piece.iov_len -= done;
+            written -= static_cast<ssize_t>(done);
+            if (piece.iov_len == 0)
+                ++first;
+        }
+    }
+    return true;
 }
 
 } // namespace Lumeran

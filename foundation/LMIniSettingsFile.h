@@ -65,7 +65,6 @@ private:
     void Refresh();
     bool Read(std::string* error);
     void Parse(const std::string& text);
-    std::string Compose() const;
     std::string ValueOf(const Entry& entry) const;
     void Set(const std::string& key, const std::string& value);
     void RemoveLine(std::size_t line);
@@ -75,6 +74,8 @@ private:
     Values CurrentValues(const std::vector<std::string>& keys) const;
     // Replaces the file with what this object holds, atomically.
     bool Commit(std::string* error) const;
+    // Every line, with the byte order mark and line ends the file had, to fd.
+    bool WriteLines(int fd) const;
     Signature Stat() const;
 
     std::string m_path;
