@@ -18,8 +18,6 @@ namespace Lumeran {
 
 namespace {
 
-// What QLockFile writes into a lock file; QLockFile reads it back to decide
-// whether the process holding a lock still runs.
 // The name QLockFile checks a running process by: its executable's file name.
 QByteArray ProcessName() {
     QByteArray target = QFile::encodeName(QFile::symLinkTarget(QStringLiteral("/proc/self/exe")));
@@ -28,14 +26,14 @@ QByteArray ProcessName() {
     return QFileInfo(QFile::decodeName(target)).fileName().toUtf8();
 }
 
-// None of the lines change while the process runs, and some are read from
-// files: made once.
-const QByteArray& Contents() {
-    static const QByteArray contents =
-        QByteArray::number(QCoreApplication::applicationPid()) + '\n' + ProcessName() + '\n' +
-        QSysInfo::machineHostName().toUtf8() + '\n' + QSysInfo::machineUniqueId() + '\n' +
-        QSysInfo::bootUniqueId() + '\n';
-    return contents;
+// What QLockFile writes into a lock file, and reads back to tell whether the
+// process holding it still runs. The lines after the process id do not change
+// while the process runs, and some are read from files: made once.
+QByteArray Contents() {
+    static const QByteArray rest = ProcessName() + '\n' + QSysInfo::machineHostName().toUtf8() +
+                                   '\n' + QSysInfo::machineUniqueId() + '\n' +
+                                   QSysInfo::bootUniqueId() + '\n';
+    return QByteArray::number(QCoreApplication::applicationPid()) + '\n' + rest;
 }
 
 bool WriteAll(int fd, const QByteArray& bytes) {
