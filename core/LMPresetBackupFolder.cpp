@@ -58,9 +58,13 @@ bool WriteAll(int fd, const std::string& value) {
 // so the folder never shows half a value, but not flushed to the disk, which
 // would double the cost of every save. A name that does not end in ".b64" is
 // never listed, so a leftover of a crash is never taken for a backup.
-bool WriteCopy(const QString& target, const std::string& value) {
+bool WriteCopy(const QString& target, const std::string& value, const QString& reuse) {
     const std::string path = target.toStdString();
     const std::string temporary = path + ".part-" + std::to_string(::getpid());
+    // A file to write over is first moved to the temporary name: until the copy
+    // is whole, neither name shows half a value.
+    if (!reuse.isEmpty())
+        ::rename(reuse.toStdString().c_str(), temporary.c_str());
     const int fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
     if (fd < 0)
         return false;
@@ -138,20 +142,33 @@ std::string LMPresetBackupFolder::Write(const QString& prefix, const std::string
     const QString hash = unreadable ? UnreadableHash(identity) : ReplacedHash(identity);
     const qint64 now = QDateTime::currentMSecsSinceEpoch();
     const QString target = dir.filePath(FileName(prefix, now, hash));
-    // The same value kept before: an unreadable one stays where it is; a replaced
-    // one moves to the front by taking the current time in its name.
+    int rolling = 0;
+    QString oldest; // of the rolling backups
+    qint64 oldestMs = 0;
     for (const QString& name : dir.entryList(QDir::Files)) {
         Parsed parsed;
-        if (!Parse(name, &parsed) || parsed.hash != hash || parsed.unreadable != unreadable)
+        if (!Parse(name, &parsed) || parsed.unreadable != unreadable)
             continue;
-        if (parsed.unreadable)
-            return dir.filePath(name).toStdString();
-        if (QFile::rename(dir.filePath(name), target))
-            return target.toStdString();
+        // The same value kept before: an unreadable one stays where it is; a
+        // replaced one moves to the front by taking the current time in its name.
+        if (parsed.hash == hash) {
+            if (parsed.unreadable)
+                return dir.filePath(name).toStdString();
+            if (QFile::rename(dir.filePath(name), target))
+                return target.toStdString();
+        }
+        ++rolling;
+        if (oldest.isEmpty() || parsed.ms < oldestMs || (parsed.ms == oldestMs && name < oldest)) {
+            oldest = name;
+            oldestMs = parsed.ms;
+        }
     }
-    if (!(unreadable ? WriteDurably(target, value) : WriteCopy(target, value)))
-        return {};
-    return target.toStdString();
+    if (unreadable)
+        return WriteDurably(target, value) ? target.toStdString() : std::string();
+    // With the folder full, the oldest backup would be pruned right after: its
+    // file is written over instead, which spares the file system a new one.
+    const QString reuse = rolling >= m_keep ? dir.filePath(oldest) : QString();
+    return WriteCopy(target, value, reuse) ? target.toStdString() : std::string();
 }
 
 void LMPresetBackupFolder::Prune() const {

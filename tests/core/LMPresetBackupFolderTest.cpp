@@ -29,7 +29,9 @@ QStringList FilesIn(const std::string& folder) {
 TEST(LMPresetBackupFolderTest, KeepsTheLastFiveDistinctReplacedValuesNewestFirst) {
     QTemporaryDir dir;
     const LMPresetBackupFolder folder(dir.filePath(QStringLiteral("recent")).toStdString());
-    for (const char* value : {"one", "two", "three", "two", "four", "five", "six", "seven"}) {
+    // The first value is the longest: the file of the oldest is written over.
+    for (const char* value :
+         {"a long first value", "two", "three", "two", "four", "five", "six", "seven"}) {
         ASSERT_TRUE(folder.KeepReplaced(value));
         // Backups are ordered by the millisecond they were kept in.
         std::this_thread::sleep_for(std::chrono::milliseconds(2));
