@@ -300,15 +300,6 @@ void BM_SaveOutsideJson(benchmark::State& state) {
 }
 BENCHMARK(BM_SaveOutsideJson)->Unit(benchmark::kMillisecond)->Arg(1000)->Arg(10000)->MinTime(0.5);
 
-// What the user waits for after a click on a short list: elapsed time, flushes
-// to the disk included.
-BENCHMARK(ChooseToSaved)
-    ->Name("BM_ChooseToSavedElapsed")
-    ->Unit(benchmark::kMillisecond)
-    ->Arg(10)
-    ->MinTime(1)
-    ->UseRealTime();
-
 // What any durable save of that file costs at least: write the bytes to a new
 // file, flush them to the disk and put the file in place.
 void SaveFileFsyncSameBytes(benchmark::State& state) {
@@ -334,11 +325,58 @@ BENCHMARK(SaveFileFsyncSameBytes)
     ->Arg(1000)
     ->MinTime(1);
 
-BENCHMARK(SaveFileFsyncSameBytes)
-    ->Name("BM_SaveFileFsyncSameBytesElapsed")
+// What the user waits for after a click on a short list, elapsed time with the
+// flush to the disk, against a bare durable write of the same bytes. The disk of
+// a shared machine flushes in anything from a fraction of a millisecond to ten:
+// the two are timed in turns, in the same iterations, so both meet the same disk.
+struct ElapsedFigures {
+    double oursMs = 0;
+    double plainMs = 0;
+} g_elapsed;
+
+void BM_SaveElapsedSideBySide(benchmark::State& state) {
+    using Clock = std::chrono::steady_clock;
+    const int entries = static_cast<int>(state.range(0));
+    const QString path = UseCopyOfStoredLists(entries, QStringLiteral("elapsed.ini"));
+    LMFmtPresetDataSource source;
+    source.PushRecentItem(source.GetRecentList().back());
+    source.SaveRecentList();
+    const QByteArray bytes(QFileInfo(path).size(), 'x');
+    const QString plainPath = TempPath(QStringLiteral("elapsed-plain.ini"));
+    Clock::duration ours{};
+    Clock::duration plain{};
+    std::int64_t turns = 0;
+    for (auto _ : state) {
+        const auto start = Clock::now();
+        source.PushRecentItem(source.GetRecentList().back());
+        source.SaveRecentList();
+        const auto saved = Clock::now();
+        QSaveFile file(plainPath);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() ||
+            !file.flush() || ::fsync(file.handle()) != 0 || !file.commit()) {
+            state.SkipWithError("write failed");
+            break;
+        }
+        ours += saved - start;
+        plain += Clock::now() - saved;
+        ++turns;
+    }
+    if (!source.LastSaveSucceeded())
+        state.SkipWithError("the settings were not written");
+    const auto ms = [turns](Clock::duration total) {
+        return std::chrono::duration<double, std::milli>(total).count() /
+               static_cast<double>(std::max<std::int64_t>(turns, 1));
+    };
+    g_elapsed = {ms(ours), ms(plain)};
+    g_settingsBytes[entries] = bytes.size();
+    state.counters["ours_ms"] = g_elapsed.oursMs;
+    state.counters["plain_ms"] = g_elapsed.plainMs;
+    state.counters["file_bytes"] = static_cast<double>(bytes.size());
+}
+BENCHMARK(BM_SaveElapsedSideBySide)
     ->Unit(benchmark::kMillisecond)
     ->Arg(10)
-    ->MinTime(1)
+    ->MinTime(2)
     ->UseRealTime();
 
 // ---- Host start --------------------------------------------------------------------
@@ -482,14 +520,13 @@ void PrintFigures(const CapturingReporter& reporter) {
     if (save10000 > 0)
         std::printf("choose -> saved, 10000 recent entries (CPU): %.2f ms   target <= 10 ms: %s\n",
                     save10000, Verdict(save10000 <= 10));
-    const double elapsed10 = reporter.Real("BM_ChooseToSavedElapsed/10");
-    const double plain10 = reporter.Real("BM_SaveFileFsyncSameBytesElapsed/10");
-    if (elapsed10 > 0 && plain10 > 0)
+    if (g_elapsed.plainMs > 0)
         std::printf(
             "choose -> saved, elapsed, 10 recent entries: %.2f ms; QSaveFile + fsync of the "
-            "same %lld bytes: %.2f ms: %.2fx   target <= 1.5x: %s\n",
-            elapsed10, static_cast<long long>(g_settingsBytes[10]), plain10, elapsed10 / plain10,
-            Verdict(elapsed10 / plain10 <= 1.5));
+            "same %lld bytes, timed in turns with it: %.2f ms: %.2fx   target <= 1.5x: %s\n",
+            g_elapsed.oursMs, static_cast<long long>(g_settingsBytes[10]), g_elapsed.plainMs,
+            g_elapsed.oursMs / g_elapsed.plainMs,
+            Verdict(g_elapsed.oursMs / g_elapsed.plainMs <= 1.5));
     for (const int size : {1000, 10000}) {
         const double outside = reporter.Cpu("BM_SaveOutsideJson/" + std::to_string(size));
         if (outside > 0 && plain1000 > 0 && size == 1000)
