@@ -140,22 +140,23 @@ std::string LMPresetBackupFolder::Write(const QString& prefix, const std::string
         return {};
     const bool unreadable = !prefix.isEmpty();
     const QString hash = unreadable ? UnreadableHash(identity) : ReplacedHash(identity);
-    const qint64 now = QDateTime::currentMSecsSinceEpoch();
-    const QString target = dir.filePath(FileName(prefix, now, hash));
+    // A name's time orders the backups, so each one kept takes a time after every
+    // one there: saves come faster than a millisecond apart.
+    qint64 now = QDateTime::currentMSecsSinceEpoch();
     int rolling = 0;
     QString oldest; // of the rolling backups
     qint64 oldestMs = 0;
+    QString same; // the same value, kept before
     for (const QString& name : dir.entryList(QDir::Files)) {
         Parsed parsed;
-        if (!Parse(name, &parsed) || parsed.unreadable != unreadable)
+        if (!Parse(name, &parsed))
             continue;
-        // The same value kept before: an unreadable one stays where it is; a
-        // replaced one moves to the front by taking the current time in its name.
-        if (parsed.hash == hash) {
-            if (parsed.unreadable)
-                return dir.filePath(name).toStdString();
-            if (QFile::rename(dir.filePath(name), target))
-                return target.toStdString();
+        now = std::max(now, parsed.ms + 1);
+        if (parsed.unreadable != unreadable)
+            continue;
+        if (parsed.hash == hash && same.isEmpty()) {
+            same = name;
+            continue;
         }
         ++rolling;
         if (oldest.isEmpty() || parsed.ms < oldestMs || (parsed.ms == oldestMs && name < oldest)) {
@@ -163,11 +164,21 @@ std::string LMPresetBackupFolder::Write(const QString& prefix, const std::string
             oldestMs = parsed.ms;
         }
     }
+    const QString target = dir.filePath(FileName(prefix, now, hash));
+    // The same value kept before: an unreadable one stays where it is; a replaced
+    // one moves to the front by taking the time in its name.
+    if (!same.isEmpty()) {
+        if (unreadable)
+            return dir.filePath(same).toStdString();
+        if (QFile::rename(dir.filePath(same), target))
+            return target.toStdString();
+        ++rolling;
+    }
     if (unreadable)
         return WriteDurably(target, value) ? target.toStdString() : std::string();
     // With the folder full, the oldest backup would be pruned right after: its
     // file is written over instead, which spares the file system a new one.
-    const QString reuse = rolling >= m_keep ? dir.filePath(oldest) : QString();
+    const QString reuse = rolling >= m_keep && !oldest.isEmpty() ? dir.filePath(oldest) : QString();
     return WriteCopy(target, value, reuse) ? target.toStdString() : std::string();
 }
 
