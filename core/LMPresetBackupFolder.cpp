@@ -2,6 +2,7 @@
 #include "LMPresetBackupFolder.h"
 
 #include "ILMFileProvider.h"
+#include "LMStableHash.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -10,6 +11,9 @@
 #include <QSaveFile>
 
 #include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace Lumeran {
 
@@ -20,11 +24,66 @@ constexpr auto kUnreadablePrefix = "unreadable-";
 // size anyway; a bigger file in the folder is not ours.
 constexpr std::int64_t kMaxValueBytes = std::int64_t(512) * 1024 * 1024;
 
-QString Hash(const std::string& value) {
-    const QByteArray digest =
-        QCryptographicHash::hash(QByteArrayView(value.data(), static_cast<qsizetype>(value.size())),
-                                 QCryptographicHash::Sha256);
+// The identity in a replaced value's name: a rolling backup is written at every
+// save that changes the value, so its hash has to cost little next to the save.
+QString ReplacedHash(const std::string& value) {
+    return QStringLiteral("%1").arg(LMStableHash::Of(value), 16, 16, QLatin1Char('0'));
+}
+
+// The identity of a value put aside as unreadable. These are rare and never
+// pruned, and the ones already on disk are named by this digest: keeping it lets
+// a value put aside before be recognised instead of kept a second time.
+QString UnreadableHash(const std::string& identity) {
+    const QByteArray digest = QCryptographicHash::hash(
+        QByteArrayView(identity.data(), static_cast<qsizetype>(identity.size())),
+        QCryptographicHash::Sha256);
     return QString::fromLatin1(digest.toHex().left(16));
+}
+
+bool WriteAll(int fd, const std::string& value) {
+    std::size_t written = 0;
+    while (written < value.size()) {
+        const ssize_t n = ::write(fd, value.data() + written, value.size() - written);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            return false;
+        written += static_cast<std::size_t>(n);
+    }
+    return true;
+}
+
+// A rolling backup is a copy of what the settings file held, and that file is
+// the durable one: written whole under a temporary name and renamed into place,
+// so the folder never shows half a value, but not flushed to the disk, which
+// would double the cost of every save. A name that does not end in ".b64" is
+// never listed, so a leftover of a crash is never taken for a backup.
+bool WriteCopy(const QString& target, const std::string& value, const QString& reuse) {
+    const std::string path = target.toStdString();
+    const std::string temporary = path + ".part-" + std::to_string(::getpid());
+    // A file to write over is first moved to the temporary name: until the copy
+    // is whole, neither name shows half a value.
+    if (!reuse.isEmpty())
+        ::rename(reuse.toStdString().c_str(), temporary.c_str());
+    const int fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+    if (fd < 0)
+        return false;
+    const bool written = WriteAll(fd, value);
+    const bool closed = ::close(fd) == 0;
+    if (written && closed && ::rename(temporary.c_str(), path.c_str()) == 0)
+        return true;
+    ::unlink(temporary.c_str());
+    return false;
+}
+
+// A value that could not be read is kept nowhere else: flushed to the disk
+// before it is in place.
+bool WriteDurably(const QString& target, const std::string& value) {
+    QSaveFile file(target);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    file.write(value.data(), static_cast<qint64>(value.size()));
+    return file.commit();
 }
 
 // "<prefix><milliseconds>-<hash>.b64"
@@ -79,27 +138,48 @@ std::string LMPresetBackupFolder::Write(const QString& prefix, const std::string
     const QDir dir(QString::fromStdString(m_folder));
     if (!dir.mkpath(QStringLiteral(".")))
         return {};
-    const QString hash = Hash(identity);
-    const qint64 now = QDateTime::currentMSecsSinceEpoch();
-    const QString target = dir.filePath(FileName(prefix, now, hash));
-    // The same value kept before: an unreadable one stays where it is; a replaced
-    // one moves to the front by taking the current time in its name.
+    const bool unreadable = !prefix.isEmpty();
+    const QString hash = unreadable ? UnreadableHash(identity) : ReplacedHash(identity);
+    // A name's time orders the backups, so each one kept takes a time after every
+    // one there: saves come faster than a millisecond apart.
+    qint64 now = QDateTime::currentMSecsSinceEpoch();
+    int rolling = 0;
+    QString oldest; // of the rolling backups
+    qint64 oldestMs = 0;
+    QString same; // the same value, kept before
     for (const QString& name : dir.entryList(QDir::Files)) {
         Parsed parsed;
-        if (!Parse(name, &parsed) || parsed.hash != hash || parsed.unreadable != !prefix.isEmpty())
+        if (!Parse(name, &parsed))
             continue;
-        if (parsed.unreadable)
-            return dir.filePath(name).toStdString();
-        if (QFile::rename(dir.filePath(name), target))
-            return target.toStdString();
+        now = std::max(now, parsed.ms + 1);
+        if (parsed.unreadable != unreadable)
+            continue;
+        if (parsed.hash == hash && same.isEmpty()) {
+            same = name;
+            continue;
+        }
+        ++rolling;
+        if (oldest.isEmpty() || parsed.ms < oldestMs || (parsed.ms == oldestMs && name < oldest)) {
+            oldest = name;
+            oldestMs = parsed.ms;
+        }
     }
-    QSaveFile file(target);
-    if (!file.open(QIODevice::WriteOnly))
-        return {};
-    file.write(value.data(), static_cast<qint64>(value.size()));
-    if (!file.commit())
-        return {};
-    return target.toStdString();
+    const QString target = dir.filePath(FileName(prefix, now, hash));
+    // The same value kept before: an unreadable one stays where it is; a replaced
+    // one moves to the front by taking the time in its name.
+    if (!same.isEmpty()) {
+        if (unreadable)
+            return dir.filePath(same).toStdString();
+        if (QFile::rename(dir.filePath(same), target))
+            return target.toStdString();
+        ++rolling;
+    }
+    if (unreadable)
+        return WriteDurably(target, value) ? target.toStdString() : std::string();
+    // With the folder full, the oldest backup would be pruned right after: its
+    // file is written over instead, which spares the file system a new one.
+    const QString reuse = rolling >= m_keep && !oldest.isEmpty() ? dir.filePath(oldest) : QString();
+    return WriteCopy(target, value, reuse) ? target.toStdString() : std::string();
 }
 
 void LMPresetBackupFolder::Prune() const {

@@ -4,16 +4,25 @@
 #include <algorithm>
 
 #include "ILMFileProvider.h"
+#include "LMSettingsLockFile.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QSaveFile>
 #include <QString>
 
+#include <array>
 #include <cerrno>
+#include <climits>
 #include <cstring>
+#include <ctime>
+#include <string_view>
 #include <sys/stat.h>
+#include <sys/uio.h>
+
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 
 namespace Lumeran {
 
@@ -26,9 +35,9 @@ constexpr int kLockWaitMs = 10000;
 // to be stale; a few seconds keeps such a leftover from blocking every save.
 constexpr int kStaleLockMs = 5000;
 
-std::string Trim(const std::string& text) {
+std::string_view Trim(std::string_view text) {
     const std::size_t first = text.find_first_not_of(" \t");
-    if (first == std::string::npos)
+    if (first == std::string_view::npos)
         return {};
     const std::size_t last = text.find_last_not_of(" \t");
     return text.substr(first, last - first + 1);
@@ -49,7 +58,7 @@ void AppendCodePoint(std::string& out, char32_t code) {
 }
 
 // Keys: %XX and %UXXXX escapes, '\' for the separator '/'.
-std::string UnescapeKey(const std::string& text) {
+std::string UnescapeKey(std::string_view text) {
     std::string out;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const char c = text[i];
@@ -129,8 +138,9 @@ char Escaped(char c) {
 
 // A value as QSettings reads it, with one difference that is the point of this
 // class: a double quote left open ends at the end of its line.
-std::string UnescapeValue(const std::string& text) {
+std::string UnescapeQuotedValue(std::string_view text) {
     std::string out;
+    out.reserve(text.size());
     bool quoted = false;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const char c = text[i];
@@ -155,6 +165,17 @@ std::string UnescapeValue(const std::string& text) {
             out.push_back(c);
         }
     }
+    return out;
+}
+
+std::string UnescapeValue(std::string_view text) {
+    // Most values (Base64 always) hold neither quotes nor escapes: copied as they
+    // stand.
+    const bool plain = std::memchr(text.data(), '"', text.size()) == nullptr &&
+                       std::memchr(text.data(), '\\', text.size()) == nullptr;
+    std::string out = plain ? std::string(text) : UnescapeQuotedValue(text);
+    if (out.empty() || out.front() != '@')
+        return out;
     if (out.rfind("@@", 0) == 0)
         return out.substr(1);
     if (out.rfind("@ByteArray(", 0) == 0 && out.back() == ')')
@@ -164,7 +185,59 @@ std::string UnescapeValue(const std::string& text) {
     return out;
 }
 
-std::string EscapeValue(const std::string& value) {
+// Bytes that a value cannot hold as they are: control characters, and what
+// QSettings reads as a quote, an escape, a list separator or a comment.
+constexpr std::array<bool, 256> MakeSpecialBytes() {
+    std::array<bool, 256> special{};
+    for (int c = 0; c < 0x20; ++c)
+        special[static_cast<std::size_t>(c)] = true;
+    for (const char c : {'\x7F', ';', ',', '"', '\\'})
+        special[static_cast<unsigned char>(c)] = true;
+    return special;
+}
+constexpr std::array<bool, 256> kSpecialBytes = MakeSpecialBytes();
+
+bool HasSpecialBytes(std::string_view text) {
+    const auto* bytes = reinterpret_cast<const unsigned char*>(text.data());
+    std::size_t i = 0;
+#ifdef __SSE2__
+    // Sixteen bytes at a time: a stored list's value is megabytes long.
+    const __m128i control = _mm_set1_epi8(0x1F);
+    const __m128i del = _mm_set1_epi8(0x7F);
+    const __m128i semicolon = _mm_set1_epi8(';');
+    const __m128i comma = _mm_set1_epi8(',');
+    const __m128i quote = _mm_set1_epi8('"');
+    const __m128i backslash = _mm_set1_epi8('\\');
+    for (; i + 16 <= text.size(); i += 16) {
+        const __m128i chunk = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes + i));
+        __m128i hits = _mm_cmpeq_epi8(_mm_min_epu8(chunk, control), chunk);
+        hits = _mm_or_si128(hits, _mm_cmpeq_epi8(chunk, del));
+        hits = _mm_or_si128(hits, _mm_cmpeq_epi8(chunk, semicolon));
+        hits = _mm_or_si128(hits, _mm_cmpeq_epi8(chunk, comma));
+        hits = _mm_or_si128(hits, _mm_cmpeq_epi8(chunk, quote));
+        hits = _mm_or_si128(hits, _mm_cmpeq_epi8(chunk, backslash));
+        if (_mm_movemask_epi8(hits) != 0)
+            return true;
+    }
+#endif
+    for (; i < text.size(); ++i) {
+        if (kSpecialBytes[bytes[i]])
+            return true;
+    }
+    return false;
+}
+
+// Whether value is written exactly as it stands.
+bool IsPlainValue(std::string_view value) {
+    return value.empty() || (value.front() != '@' && value.front() != ' ' && value.back() != ' ' &&
+                             !HasSpecialBytes(value));
+}
+
+void AppendEscapedValue(std::string& out, const std::string& value) {
+    if (IsPlainValue(value)) {
+        out += value;
+        return;
+    }
     const std::string text = value.rfind('@', 0) == 0 ? "@" + value : value;
     bool quote = !text.empty() && (text.front() == ' ' || text.back() == ' ');
     std::string body;
@@ -184,8 +257,9 @@ std::string EscapeValue(const std::string& value) {
             char buffer[8];
             body.append(buffer, static_cast<std::size_t>(
                                     std::snprintf(buffer, sizeof buffer, "\\x%x", unsigned(c))));
-            // A hex digit right after would be read as part of the escape.
-            if (i + 1 < text.size() && HexDigit(text[i + 1]) >= 0) {
+            // Hex digits right after would be read as part of the escape: each is
+            // escaped too, as QSettings does.
+            while (i + 1 < text.size() && HexDigit(text[i + 1]) >= 0) {
                 body.append(buffer, static_cast<std::size_t>(std::snprintf(
                                         buffer, sizeof buffer, "\\x%x", unsigned(text[i + 1]))));
                 ++i;
@@ -194,7 +268,11 @@ std::string EscapeValue(const std::string& value) {
             body.push_back(static_cast<char>(c));
         }
     }
-    return quote ? "\"" + body + "\"" : body;
+    if (quote)
+        out += '"';
+    out += body;
+    if (quote)
+        out += '"';
 }
 
 // "section/key" -> ("section", "key" with further '/' kept); a key without '/'
@@ -206,13 +284,52 @@ std::pair<std::string, std::string> SplitKey(const std::string& key) {
     return {key.substr(0, slash), key.substr(slash + 1)};
 }
 
-bool IsSectionLine(const std::string& trimmed) {
+bool IsSectionLine(std::string_view trimmed) {
     return trimmed.size() >= 2 && trimmed.front() == '[' && trimmed.back() == ']';
 }
 
-std::string SectionOf(const std::string& trimmed) {
+std::string SectionOf(std::string_view trimmed) {
     const std::string name = UnescapeKey(trimmed.substr(1, trimmed.size() - 2));
     return name == "General" ? std::string() : name;
+}
+
+// A setting line: its key (section prefixed) and where its value sits; false for
+// a line that sets nothing (blank, comment, header or not a setting).
+bool ParseSetting(const std::string& line, const std::string& section, std::string* key,
+                  std::size_t* valueStart, std::size_t* valueSize) {
+    const std::string_view trimmed = Trim(line);
+    if (trimmed.empty() || trimmed.front() == ';' || trimmed.front() == '#' ||
+        IsSectionLine(trimmed))
+        return false;
+    const std::size_t equals = trimmed.find('=');
+    if (equals == std::string_view::npos || equals == 0)
+        return false; // not a setting; kept as it stands
+    const std::string name = UnescapeKey(Trim(trimmed.substr(0, equals)));
+    *key = section.empty() ? name : section + "/" + name;
+    const std::string_view value = Trim(trimmed.substr(equals + 1));
+    *valueStart =
+        value.empty() ? line.size() : static_cast<std::size_t>(value.data() - line.data());
+    *valueSize = value.size();
+    return true;
+}
+
+// QSettings takes a file it has read for unchanged while its size and its time
+// of change, in milliseconds, stay the same; the file system keeps that time at
+// the clock's tick, several milliseconds. A value replaced by one of the same
+// length within a tick would then go unseen by the host's QSettings, in this
+// process or another. The new file is stamped with the precise time instead,
+// and at least a millisecond after the file it replaces.
+bool Stamp(int fd, std::int64_t replacedNs) {
+    constexpr std::int64_t kMs = 1000000;
+    timespec now{};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    std::int64_t stamp = static_cast<std::int64_t>(now.tv_sec) * 1000000000 + now.tv_nsec;
+    if (replacedNs >= 0 && stamp / kMs <= replacedNs / kMs)
+        stamp = (replacedNs / kMs + 1) * kMs;
+    const timespec times[2] = {
+        {0, UTIME_OMIT},
+        {static_cast<time_t>(stamp / 1000000000), static_cast<long>(stamp % 1000000000)}};
+    return ::futimens(fd, times) == 0;
 }
 
 } // namespace
@@ -228,8 +345,7 @@ LMIniSettingsFile::Signature LMIniSettingsFile::Stat() const {
 }
 
 void LMIniSettingsFile::Refresh() {
-    const Signature now = Stat();
-    if (now == m_seen && m_readError.empty())
+    if (Stat() == m_seen && m_readError.empty())
         return;
     std::string error;
     Read(&error);
@@ -262,49 +378,39 @@ void LMIniSettingsFile::Parse(const std::string& text) {
     m_bom = text.rfind(kBom, 0) == 0;
     m_crlf = false;
     std::size_t start = m_bom ? 3 : 0;
+    std::string section;
     while (start < text.size()) {
         std::size_t end = text.find('\n', start);
         if (end == std::string::npos)
             end = text.size();
-        std::string line = text.substr(start, end - start);
-        if (!line.empty() && line.back() == '\r') {
-            line.pop_back();
+        std::size_t size = end - start;
+        if (size > 0 && text[end - 1] == '\r') {
+            --size;
             m_crlf = m_crlf || m_lines.empty();
         }
-        m_lines.push_back(std::move(line));
+        const std::string& line = m_lines.emplace_back(text, start, size);
         start = end + 1;
-    }
-    std::string section;
-    for (std::size_t i = 0; i < m_lines.size(); ++i) {
-        const std::string trimmed = Trim(m_lines[i]);
-        if (trimmed.empty() || trimmed.front() == ';' || trimmed.front() == '#')
-            continue;
-        if (IsSectionLine(trimmed)) {
+        if (const std::string_view trimmed = Trim(line); IsSectionLine(trimmed)) {
             section = SectionOf(trimmed);
             continue;
         }
-        const std::size_t equals = trimmed.find('=');
-        if (equals == std::string::npos || equals == 0)
-            continue; // not a setting; kept as it stands
-        const std::string key = UnescapeKey(Trim(trimmed.substr(0, equals)));
-        m_entries.push_back({section.empty() ? key : section + "/" + key,
-                             UnescapeValue(Trim(trimmed.substr(equals + 1))), i});
+        Entry entry;
+        entry.line = m_lines.size() - 1;
+        if (ParseSetting(line, section, &entry.key, &entry.valueStart, &entry.valueSize))
+            m_entries.push_back(std::move(entry));
     }
 }
 
-std::string LMIniSettingsFile::Compose() const {
-    std::string text = m_bom ? kBom : "";
-    const char* end = m_crlf ? "\r\n" : "\n";
-    for (const std::string& line : m_lines)
-        text += line + end;
-    return text;
+std::string LMIniSettingsFile::ValueOf(const Entry& entry) const {
+    return UnescapeValue(
+        std::string_view(m_lines[entry.line]).substr(entry.valueStart, entry.valueSize));
 }
 
 std::optional<std::string> LMIniSettingsFile::Value(const std::string& key) {
     Refresh();
     for (auto it = m_entries.rbegin(); it != m_entries.rend(); ++it) {
         if (it->key == key)
-            return it->value;
+            return ValueOf(*it);
     }
     return std::nullopt;
 }
@@ -314,7 +420,7 @@ std::vector<std::string> LMIniSettingsFile::ShadowedValues(const std::string& ke
     std::vector<std::string> values;
     for (const Entry& entry : m_entries) {
         if (entry.key == key)
-            values.push_back(entry.value);
+            values.push_back(ValueOf(entry));
     }
     if (!values.empty())
         values.pop_back(); // the one that is read
@@ -327,7 +433,7 @@ std::size_t LMIniSettingsFile::InsertionLine(const std::string& section, bool* n
     bool found = false;
     std::size_t after = 0;
     for (std::size_t i = 0; i < m_lines.size(); ++i) {
-        const std::string trimmed = Trim(m_lines[i]);
+        const std::string_view trimmed = Trim(m_lines[i]);
         if (IsSectionLine(trimmed)) {
             current = SectionOf(trimmed);
             if (current == section) {
@@ -344,36 +450,78 @@ std::size_t LMIniSettingsFile::InsertionLine(const std::string& section, bool* n
     return found ? after : section.empty() ? 0 : m_lines.size();
 }
 
+// Lines and entries are changed where they stand, so setting a key costs the
+// length of its own line, not a new reading of the whole file.
 void LMIniSettingsFile::Set(const std::string& key, const std::string& value) {
     const auto [section, name] = SplitKey(key);
-    const std::string line = EscapeKey(name) + "=" + EscapeValue(value);
-    std::vector<std::size_t> lines;
-    for (const Entry& entry : m_entries) {
-        if (entry.key == key)
-            lines.push_back(entry.line);
+    std::vector<std::size_t> found; // indices in m_entries, in line order
+    for (std::size_t i = 0; i < m_entries.size(); ++i) {
+        if (m_entries[i].key == key)
+            found.push_back(i);
     }
-    if (!lines.empty()) {
-        // The last line is the one read; earlier ones are dropped from the file.
-        m_lines[lines.back()] = line;
-        for (auto it = lines.rbegin() + 1; it != lines.rend(); ++it)
-            m_lines.erase(m_lines.begin() + static_cast<std::ptrdiff_t>(*it));
-    } else {
-        bool newSection = false;
-        const std::size_t at = InsertionLine(section, &newSection);
-        std::vector<std::string> added;
-        if (newSection) {
-            if (at > 0 && !Trim(m_lines[at - 1]).empty())
-                added.emplace_back();
-            added.push_back("[" + (section.empty() ? std::string("General") : EscapeKey(section)) +
-                            "]");
-        }
-        added.push_back(line);
-        if (newSection && at < m_lines.size())
-            added.emplace_back();
-        m_lines.insert(m_lines.begin() + static_cast<std::ptrdiff_t>(at), added.begin(),
-                       added.end());
+    // A line is written over the one it replaces, in its storage: a stored list's
+    // line is megabytes long, and a new one at every save would be taken from
+    // and handed back to the system each time.
+    std::string added;
+    std::string& line = found.empty() ? added : m_lines[m_entries[found.back()].line];
+    line.clear();
+    line += EscapeKey(name);
+    line += '=';
+    Entry entry;
+    entry.key = key;
+    entry.valueStart = line.size();
+    AppendEscapedValue(line, value);
+    entry.valueSize = line.size() - entry.valueStart;
+
+    if (!found.empty()) {
+        // The last line is the one read; earlier ones are dropped from the file,
+        // from the last up so that the indices still to come stay valid.
+        Entry& kept = m_entries[found.back()];
+        entry.line = kept.line;
+        kept = std::move(entry);
+        for (auto it = found.rbegin() + 1; it != found.rend(); ++it)
+            RemoveLine(m_entries[*it].line);
+        return;
     }
-    Parse(Compose());
+    bool newSection = false;
+    const std::size_t at = InsertionLine(section, &newSection);
+    std::vector<std::string> lines;
+    if (newSection) {
+        if (at > 0 && !Trim(m_lines[at - 1]).empty())
+            lines.emplace_back();
+        lines.push_back("[" + (section.empty() ? std::string("General") : EscapeKey(section)) +
+                        "]");
+    }
+    entry.line = at + lines.size();
+    lines.push_back(std::move(added));
+    if (newSection && at < m_lines.size())
+        lines.emplace_back();
+    // As a reading of the file names it: a "General/" prefix names no section.
+    if (section == "General")
+        entry.key = name;
+    InsertLines(at, std::move(lines), std::move(entry));
+}
+
+void LMIniSettingsFile::RemoveLine(std::size_t line) {
+    m_lines.erase(m_lines.begin() + static_cast<std::ptrdiff_t>(line));
+    std::erase_if(m_entries, [line](const Entry& entry) { return entry.line == line; });
+    for (Entry& entry : m_entries) {
+        if (entry.line > line)
+            --entry.line;
+    }
+}
+
+void LMIniSettingsFile::InsertLines(std::size_t at, std::vector<std::string> lines, Entry added) {
+    for (Entry& entry : m_entries) {
+        if (entry.line >= at)
+            entry.line += lines.size();
+    }
+    m_lines.insert(m_lines.begin() + static_cast<std::ptrdiff_t>(at),
+                   std::make_move_iterator(lines.begin()), std::make_move_iterator(lines.end()));
+    const auto before =
+        std::upper_bound(m_entries.begin(), m_entries.end(), added.line,
+                         [](std::size_t line, const Entry& entry) { return line < entry.line; });
+    m_entries.insert(before, std::move(added));
 }
 
 bool LMIniSettingsFile::Write(const std::vector<std::string>& keys, const Update& update,
@@ -391,18 +539,20 @@ bool LMIniSettingsFile::Write(const std::vector<std::string>& keys, const Update
         return fail("not a regular file: " + m_path);
     if (!QDir().mkpath(info.absolutePath()))
         return fail("cannot create the folder of " + m_path);
-    QLockFile lock(path + QStringLiteral(".lock"));
-    lock.setStaleLockTime(kStaleLockMs);
-    if (!lock.tryLock(kLockWaitMs))
+    LMSettingsLockFile lock(m_path + ".lock");
+    if (!lock.Lock(kLockWaitMs, kStaleLockMs))
         return fail("the settings file " + m_path + " stays locked by another process");
+    // Under the lock the file can only change through a writer that takes it too;
+    // when nobody has written it since this object did, what it holds is current.
     std::string why;
-    if (!Read(&why))
+    if ((Stat() != m_seen || !m_readError.empty()) && !Read(&why))
         return fail(why + "; it is left as it is");
-    const std::optional<Values> next = update(CurrentValues(keys));
+    std::optional<Values> next = update(CurrentValues(keys));
     if (!next)
         return false;
-    for (const auto& [key, value] : *next)
+    for (auto& [key, value] : *next)
         Set(key, value);
+    next.reset(); // the values are in the lines now; no second copy while writing
     if (!Commit(&why)) {
         Read(nullptr); // what is on disk, not what failed to get there
         return fail(why);
@@ -419,22 +569,60 @@ LMIniSettingsFile::CurrentValues(const std::vector<std::string>& keys) const {
         const auto last = std::find_if(m_entries.rbegin(), m_entries.rend(),
                                        [&](const Entry& entry) { return entry.key == key; });
         if (last != m_entries.rend())
-            current.emplace(key, last->value);
+            current.emplace(key, ValueOf(*last));
     }
     return current;
 }
 
 bool LMIniSettingsFile::Commit(std::string* error) const {
-    const std::string text = Compose();
     QSaveFile file(QString::fromStdString(m_path));
     file.setDirectWriteFallback(false);
-    if (file.open(QIODevice::WriteOnly) &&
-        file.write(text.data(), static_cast<qint64>(text.size())) ==
-            static_cast<qint64>(text.size()) &&
-        file.commit())
+    // The lines go to the file as they are held, with no copy of the whole text
+    // in between; QSaveFile flushes the new file to the disk before it replaces
+    // the old one: the one flush a write makes.
+    if (file.open(QIODevice::WriteOnly) && WriteLines(file.handle()) &&
+        Stamp(file.handle(), m_seen.modifiedNs) && file.commit())
         return true;
-    *error = "cannot write " + m_path + ": " + file.errorString().toStdString();
+    *error = "cannot write " + m_path + ": " +
+             (file.error() != QFileDevice::NoError ? file.errorString().toStdString()
+                                                   : std::string(std::strerror(errno)));
     return false;
+}
+
+bool LMIniSettingsFile::WriteLines(int fd) const {
+    const std::string_view end = m_crlf ? "\r\n" : "\n";
+    std::vector<iovec> pieces;
+    pieces.reserve(m_lines.size() * 2 + 1);
+    const auto add = [&pieces](std::string_view piece) {
+        if (!piece.empty())
+            pieces.push_back({const_cast<char*>(piece.data()), piece.size()});
+    };
+    if (m_bom)
+        add(kBom);
+    for (const std::string& line : m_lines) {
+        add(line);
+        add(end);
+    }
+    std::size_t first = 0;
+    while (first < pieces.size()) {
+        const int count = static_cast<int>(std::min<std::size_t>(pieces.size() - first, IOV_MAX));
+        ssize_t written = ::writev(fd, &pieces[first], count);
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        // A short write leaves the rest of a piece and the pieces after it.
+        while (written > 0) {
+            iovec& piece = pieces[first];
+            const auto done = std::min(static_cast<std::size_t>(written), piece.iov_len);
+            piece.iov_base = static_cast<char*>(piece.iov_base) + done;
+            piece.iov_len -= done;
+            written -= static_cast<ssize_t>(done);
+            if (piece.iov_len == 0)
+                ++first;
+        }
+    }
+    return true;
 }
 
 } // namespace Lumeran

@@ -49,8 +49,11 @@ public:
 private:
     struct Entry {
         std::string key;
-        std::string value;
         std::size_t line = 0;
+        // Where the value sits in its line, as written there: it is unescaped only
+        // when it is asked for, so reading a file costs no more than splitting it.
+        std::size_t valueStart = 0;
+        std::size_t valueSize = 0;
     };
     struct Signature {
         std::int64_t modifiedNs = -1;
@@ -62,20 +65,26 @@ private:
     void Refresh();
     bool Read(std::string* error);
     void Parse(const std::string& text);
-    std::string Compose() const;
+    std::string ValueOf(const Entry& entry) const;
     void Set(const std::string& key, const std::string& value);
+    void RemoveLine(std::size_t line);
+    void InsertLines(std::size_t at, std::vector<std::string> lines, Entry added);
     std::size_t InsertionLine(const std::string& section, bool* newSection) const;
     // The values of keys as the file holds them now; absent keys left out.
     Values CurrentValues(const std::vector<std::string>& keys) const;
     // Replaces the file with what this object holds, atomically.
     bool Commit(std::string* error) const;
+    // Every line, with the byte order mark and line ends the file had, to fd.
+    bool WriteLines(int fd) const;
     Signature Stat() const;
 
     std::string m_path;
     std::vector<std::string> m_lines;
-    std::vector<Entry> m_entries;
+    std::vector<Entry> m_entries; // in the order of their lines
     bool m_crlf = false;
     bool m_bom = false;
+    // The file as this object last read or wrote it: while it is unchanged on
+    // disk, what this object holds is what the file holds.
     Signature m_seen;
     std::string m_readError;
 };

@@ -5,7 +5,8 @@ set -euo pipefail
 build=${1:-build}
 status=0
 for program in "$build"/bench/lmfp_bench_*; do
-    [ -x "$program" ] || continue
+    # Programs only: the build also leaves folders (moc's) under these names.
+    [ -f "$program" ] && [ -x "$program" ] || continue
     echo "== $(basename "$program")"
     "$program" --benchmark_counters_tabular=true || status=1
 done

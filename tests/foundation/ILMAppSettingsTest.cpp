@@ -1,10 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "ILMAppSettings.h"
+#include "ILMBase64Codec.h"
 #include "LMTestEnvironment.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QSettings>
+
+#include <atomic>
+#include <chrono>
+#include <map>
+#include <random>
+#include <thread>
 
 #include <sys/stat.h>
 
@@ -135,7 +143,9 @@ TEST_F(ILMAppSettingsTest, QSettingsAndThisStoreReadWhatTheOtherWrote) {
                                              "tab\there",
                                              "line\nbreak",
                                              std::string("c\x01"
-                                                         "F")};
+                                                         "F"),
+                                             std::string("c\x01"
+                                                         "00F")};
     auto store = ILMAppSettings::Shared();
     for (std::size_t i = 0; i < values.size(); ++i)
         store->SetStringValue(values[i], "ours" + std::to_string(i));
@@ -194,4 +204,100 @@ TEST_F(ILMAppSettingsTest, ASettingsFileThatIsANamedPipeIsNeitherReadNorReplaced
     store->Synchronize();
     EXPECT_FALSE(store->LastSynchronizeSucceeded());
     EXPECT_FALSE(QFileInfo(QString::fromStdString(path)).isFile());
+}
+
+namespace {
+
+std::string RandomBase64(std::mt19937& random, std::size_t size) {
+    std::string bytes(size, '\0');
+    for (char& c : bytes)
+        c = static_cast<char>(random());
+    return ILMBase64Codec::Encode(bytes);
+}
+
+} // namespace
+
+TEST_F(ILMAppSettingsTest, HostKeysSetThroughQSettingsBeforeAndAfterASaveSurvive) {
+    const QString path = QString::fromStdString(settings->FilePath());
+    {
+        QSettings host(path, QSettings::IniFormat);
+        host.setValue(QStringLiteral("before"), QStringLiteral("set, before \"ours\""));
+        host.setValue(QStringLiteral("Window/geometry"), QByteArray("\x01\x02 bytes"));
+    }
+    std::mt19937 random(5);
+    auto store = ILMAppSettings::Shared();
+    const auto check = [&](const std::map<std::string, std::string>& ours, bool after) {
+        QSettings host(path, QSettings::IniFormat);
+        for (const auto& [key, value] : ours)
+            EXPECT_EQ(host.value(QString::fromStdString(key)).toString().toStdString(), value)
+                << key;
+        EXPECT_EQ(host.value(QStringLiteral("before")).toString(),
+                  QStringLiteral("set, before \"ours\""));
+        EXPECT_EQ(host.value(QStringLiteral("Window/geometry")).toByteArray(),
+                  QByteArray("\x01\x02 bytes"));
+        if (after) {
+            EXPECT_EQ(host.value(QStringLiteral("after")).toString(), QStringLiteral("set after"));
+        }
+    };
+    std::map<std::string, std::string> ours = {
+        {"recent_format_preset", RandomBase64(random, 300000)},
+        {"note", "needs \"escaping\", ; \\ \t"}};
+    for (const auto& [key, value] : ours)
+        store->SetStringValue(value, key);
+    store->Synchronize();
+    ASSERT_TRUE(store->LastSynchronizeSucceeded());
+    check(ours, false);
+
+    QSettings(path, QSettings::IniFormat)
+        .setValue(QStringLiteral("after"), QStringLiteral("set after"));
+    // Saved again after the host wrote, then again with nobody writing between.
+    for (int save = 0; save < 2; ++save) {
+        ours["recent_format_preset"] = RandomBase64(random, 200000 + 1000 * save);
+        ours["note"] += "\n@";
+        for (const auto& [key, value] : ours)
+            store->SetStringValue(value, key);
+        store->Synchronize();
+        ASSERT_TRUE(store->LastSynchronizeSucceeded());
+        check(ours, true);
+        for (const auto& [key, value] : ours)
+            EXPECT_EQ(store->StringValue(key), value);
+    }
+}
+
+TEST_F(ILMAppSettingsTest, ASaveWaitsWhileQSettingsHoldsTheLock) {
+    const QString path = QString::fromStdString(settings->FilePath());
+    auto held = std::make_unique<QLockFile>(path + QStringLiteral(".lock"));
+    ASSERT_TRUE(held->tryLock(0));
+    auto store = ILMAppSettings::Shared();
+    store->SetStringValue("waited", "key");
+    std::atomic<bool> done = false;
+    std::thread save([&] {
+        store->Synchronize();
+        done = true;
+    });
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    EXPECT_FALSE(done);
+    EXPECT_FALSE(QFile::exists(path));
+    held.reset();
+    save.join();
+    EXPECT_TRUE(store->LastSynchronizeSucceeded());
+    EXPECT_EQ(QSettings(path, QSettings::IniFormat).value(QStringLiteral("key")).toString(),
+              QStringLiteral("waited"));
+}
+
+// The host's QSettings takes a file for unchanged while its size and its time of
+// change in milliseconds are; saves in quick succession of values of one length
+// must still be seen.
+TEST_F(ILMAppSettingsTest, TheHostsQSettingsSeesEveryQuickSaveOfAValueOfTheSameLength) {
+    const QString path = QString::fromStdString(settings->FilePath());
+    auto store = ILMAppSettings::Shared();
+    QSettings host(path, QSettings::IniFormat);
+    for (int i = 0; i < 50; ++i) {
+        const std::string value = "value-" + std::to_string(i % 10);
+        store->SetStringValue(value, "key");
+        store->Synchronize();
+        ASSERT_TRUE(store->LastSynchronizeSucceeded());
+        host.sync();
+        ASSERT_EQ(host.value(QStringLiteral("key")).toString().toStdString(), value) << i;
+    }
 }

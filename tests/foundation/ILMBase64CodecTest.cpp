@@ -1,7 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ILMBase64Codec.h"
 
+#include <QByteArray>
+
 #include <gtest/gtest.h>
+
+#include <cctype>
+#include <random>
+#include <string_view>
 
 using namespace Lumeran;
 
@@ -53,4 +59,92 @@ TEST(ILMBase64CodecTest, SalvageFindsWhatDamagedTextStillHolds) {
     ASSERT_FALSE(prefix.empty());
     EXPECT_EQ(prefix.front(), "a long en");
     EXPECT_TRUE(ILMBase64Codec::SalvageDecodings("!!!").empty());
+}
+
+namespace {
+
+// How stored values were encoded and decoded before the codec had its own tables.
+std::string QtEncode(const std::string& data) {
+    return QByteArray::fromRawData(data.data(), static_cast<qsizetype>(data.size()))
+        .toBase64()
+        .toStdString();
+}
+
+std::string QtDecode(const std::string& text) {
+    std::string compact;
+    for (const char c : text) {
+        if (std::string_view(" \t\r\n\f\v").find(c) == std::string_view::npos)
+            compact.push_back(c);
+    }
+    const auto result = QByteArray::fromBase64Encoding(QByteArray::fromStdString(compact),
+                                                       QByteArray::AbortOnBase64DecodingErrors);
+    return result ? result.decoded.toStdString() : std::string();
+}
+
+std::string RandomBytes(std::mt19937& random, std::size_t size) {
+    std::string data(size, '\0');
+    for (char& c : data)
+        c = static_cast<char>(random());
+    return data;
+}
+
+} // namespace
+
+TEST(ILMBase64CodecTest, EncodingMatchesQtsOnRandomData) {
+    std::mt19937 random(1234);
+    for (int round = 0; round < 2000; ++round) {
+        const std::string data = RandomBytes(random, random() % 70);
+        ASSERT_EQ(ILMBase64Codec::Encode(data), QtEncode(data)) << round;
+        ASSERT_EQ(ILMBase64Codec::Decode(QtEncode(data)), data) << round;
+    }
+}
+
+TEST(ILMBase64CodecTest, DecodingAcceptsAndRefusesExactlyWhatQtsDid) {
+    // Mostly alphabet, with padding, white space and stray characters in random
+    // places and random lengths: valid text, bad padding, bad lengths, bad bytes.
+    const std::string pool = "AZaz09+/QUJDZm9v====  \n\r\t-_!\x80\xff.";
+    std::mt19937 random(99);
+    int accepted = 0;
+    for (int round = 0; round < 20000; ++round) {
+        const std::string valid = QtEncode(RandomBytes(random, random() % 20));
+        std::string text = valid;
+        const int edits = static_cast<int>(random() % 4);
+        for (int e = 0; e < edits; ++e) {
+            const std::size_t at = text.empty() ? 0 : random() % (text.size() + 1);
+            const char c = pool[random() % pool.size()];
+            if (random() % 3 == 0 && at < text.size())
+                text.erase(at, 1);
+            else
+                text.insert(at, 1, c);
+        }
+        const std::string decoded = ILMBase64Codec::Decode(text);
+        ASSERT_EQ(decoded, QtDecode(text)) << "round " << round << ": \"" << text << "\"";
+        accepted += decoded.empty() ? 0 : 1;
+    }
+    // Both kinds were tried: texts that decode and texts that are refused.
+    EXPECT_GT(accepted, 2000);
+    EXPECT_LT(accepted, 18000);
+}
+
+TEST(ILMBase64CodecTest, SalvageMatchesDecodingsOfTheRepairedText) {
+    std::mt19937 random(7);
+    for (int round = 0; round < 2000; ++round) {
+        std::string text = QtEncode(RandomBytes(random, random() % 40 + 1));
+        text.insert(random() % text.size(), "*");
+        const auto decodings = ILMBase64Codec::SalvageDecodings(text);
+        std::string alphabetOnly;
+        for (const char c : text) {
+            if (std::isalnum(static_cast<unsigned char>(c)) || c == '+' || c == '/')
+                alphabetOnly.push_back(c);
+        }
+        if (alphabetOnly.size() % 4 == 1)
+            alphabetOnly.pop_back();
+        while (alphabetOnly.size() % 4 != 0)
+            alphabetOnly.push_back('=');
+        const std::string expected = QtDecode(alphabetOnly);
+        if (expected.empty())
+            continue;
+        ASSERT_FALSE(decodings.empty()) << text;
+        EXPECT_EQ(decodings.front(), expected) << text;
+    }
 }
