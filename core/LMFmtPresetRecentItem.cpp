@@ -35,7 +35,7 @@ LMFmtPresetRecentItem::LMFmtPresetRecentItem(std::shared_ptr<const ILMFormatNode
 
 // An entry built without a node still reads sensibly: it shows the preset alone.
 std::string LMFmtPresetRecentItem::Title() const {
-    if (IsEmpty())
+    if (!m_preset)
         return {};
     std::string presetTitle = m_preset->Title();
     if (!m_node)
@@ -49,13 +49,13 @@ std::string LMFmtPresetRecentItem::Title() const {
 }
 
 std::string LMFmtPresetRecentItem::Description() const {
-    if (IsEmpty() || !m_node)
+    if (!m_preset || !m_node)
         return {};
     return m_node->Description();
 }
 
 int LMFmtPresetRecentItem::FaceID() const {
-    if (IsEmpty() || !m_node)
+    if (!m_preset || !m_node)
         return 0;
     return m_node->FaceID();
 }
@@ -67,9 +67,11 @@ std::shared_ptr<const ILMFmtPresetRecentItem> LMFmtPresetRecentItem::Clone() con
 bool LMFmtPresetRecentItem::IsEqualTo(std::shared_ptr<const ILMFmtPresetRecentItem> other) const {
     if (!other)
         return false;
-    return FaceID() == other->FaceID() && Description() == other->Description() &&
-           Title() == other->Title() && SameNode(m_node, other->FormatNode()) &&
-           SamePreset(m_preset, other->FormatPreset());
+    // The recent list is searched for an equal entry at every choice: the checks
+    // that tell most entries apart, and build no text, come first.
+    return FaceID() == other->FaceID() && SamePreset(m_preset, other->FormatPreset()) &&
+           Description() == other->Description() && Title() == other->Title() &&
+           SameNode(m_node, other->FormatNode());
 }
 
 } // namespace Lumeran

@@ -153,6 +153,18 @@ void LMFormatPreset::SetStreamExtraFields(bool audio, QJsonObject extra) {
     m_revision.Touch();
 }
 
+namespace {
+
+// Descriptions are shared between presets, and absent when empty.
+bool SameText(const std::shared_ptr<const std::string>& a,
+              const std::shared_ptr<const std::string>& b) {
+    if (a == b)
+        return true;
+    return a && b && *a == *b;
+}
+
+} // namespace
+
 bool LMFormatPreset::IsEqualTo(std::shared_ptr<const ILMFormatPreset> other) const {
     if (!other)
         return false;
@@ -160,7 +172,7 @@ bool LMFormatPreset::IsEqualTo(std::shared_ptr<const ILMFormatPreset> other) con
         return true;
     const auto* that = dynamic_cast<const LMFormatPreset*>(other.get());
     if (!that || m_container != that->m_container || m_title != that->m_title ||
-        Description() != that->Description() || m_faceID != that->m_faceID ||
+        !SameText(m_description, that->m_description) || m_faceID != that->m_faceID ||
         m_currentVideo != that->m_currentVideo || m_currentAudio != that->m_currentAudio)
         return false;
     for (const bool audio : {false, true}) {
