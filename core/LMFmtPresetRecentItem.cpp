@@ -67,11 +67,9 @@ std::shared_ptr<const ILMFmtPresetRecentItem> LMFmtPresetRecentItem::Clone() con
 bool LMFmtPresetRecentItem::IsEqualTo(std::shared_ptr<const ILMFmtPresetRecentItem> other) const {
     if (!other)
         return false;
-    // The recent list is searched for an equal entry at every choice: the checks
-    // that tell most entries apart, and build no text, come first.
-    return FaceID() == other->FaceID() && SamePreset(m_preset, other->FormatPreset()) &&
-           Description() == other->Description() && Title() == other->Title() &&
-           SameNode(m_node, other->FormatNode());
+    return FaceID() == other->FaceID() && Description() == other->Description() &&
+           Title() == other->Title() && SameNode(m_node, other->FormatNode()) &&
+           SamePreset(m_preset, other->FormatPreset());
 }
 
 } // namespace Lumeran
