@@ -23,6 +23,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QPalette>
 #include <QProcess>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -39,6 +40,24 @@ namespace {
 // user would.
 LMFormatSelectionWndCtrlPrivate* Popup() {
     return LMFormatSelectionWndCtrlPrivate::get(LMFormatSelectionWndCtrl::shared());
+}
+
+// The palette of a dark desktop theme, for the tour's dark steps.
+QPalette DarkDesktopPalette() {
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(45, 45, 48));
+    palette.setColor(QPalette::WindowText, QColor(230, 230, 230));
+    palette.setColor(QPalette::Base, QColor(30, 30, 32));
+    palette.setColor(QPalette::AlternateBase, QColor(40, 40, 42));
+    palette.setColor(QPalette::Text, QColor(230, 230, 230));
+    palette.setColor(QPalette::Button, QColor(55, 55, 58));
+    palette.setColor(QPalette::ButtonText, QColor(230, 230, 230));
+    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, QColor(160, 160, 160));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(127, 127, 127));
+    return palette;
 }
 
 } // namespace
@@ -113,7 +132,8 @@ bool LMDemoTour::run() {
     m_host->show();
     settle();
 
-    if (!popupSteps() || !choiceSteps() || !editorSteps() || (m_convert && !conversionSteps()))
+    if (!popupSteps() || !choiceSteps() || !editorSteps() || !darkSteps() ||
+        (m_convert && !conversionSteps()))
         return false;
     std::printf("%d screenshots written.\n", m_shots);
     return true;
@@ -276,6 +296,37 @@ bool LMDemoTour::editorSteps() {
     // 11. A preset without a video stream: the video section is disabled.
     return shootEditor(wav->FormatPresetAt(0)->Clone(), wav,
                        QStringLiteral("11-editor-audio-only"));
+}
+
+// The popup and the editor once more, on a desktop with a dark theme. Taken
+// before the conversion, which may fail on a machine without FFmpeg's encoders,
+// and numbered after it so that the light pictures keep their names.
+bool LMDemoTour::darkSteps() {
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(DarkDesktopPalette());
+    settle();
+    // 14. The first category, one preset chosen and the pointer over another.
+    QTest::mouseClick(m_host->formatButton(), Qt::LeftButton);
+    settle();
+    clickTab(1);
+    auto* video = static_cast<LMFormatCollectionView*>(categoryPresetList(0));
+    bool shot = check(video && video->model()->rowCount() > 3, "the first category has no presets");
+    if (shot) {
+        video->selectItemsAtIndexPaths({1}, QAbstractItemView::EnsureVisible);
+        hoverRow(video, 3);
+        shot = shoot(QStringLiteral("14-dark-popup"));
+    }
+    QTest::keyClick(Popup()->searchField(), Qt::Key_Escape);
+    settle();
+    // 15. The editor on a video preset.
+    const auto catalogue = ILMFmtPresetDataSource::Shared()->GetExternalFormatPresets();
+    const std::shared_ptr<const ILMFormatNode> mp4 =
+        std::as_const(*catalogue->ChildAt(0)).ChildAt(0);
+    shot =
+        shot && shootEditor(mp4->FormatPresetAt(0)->Clone(), mp4, QStringLiteral("15-dark-editor"));
+    QApplication::setPalette(light);
+    settle();
+    return shot;
 }
 
 bool LMDemoTour::conversionSteps() {
