@@ -7,6 +7,7 @@
 #include "LMFormatSelectionWndCtrl_p.h"
 
 #include "ILMFmtPresetDataSource.h"
+#include "LMDarkDesktopPalette.h"
 #include "LMFmtNodeViewCtrl.h"
 #include "LMFormatCellLayout.h"
 #include "LMFormatCollectionItemDelegate.h"
@@ -41,27 +42,6 @@ using Lumeran::TestSupport::UiTest;
 namespace {
 
 constexpr double kMinimumContrast = 4.5;
-
-// A palette as a dark desktop theme sets it.
-QPalette DarkPalette() {
-    QPalette palette;
-    palette.setColor(QPalette::Window, QColor(45, 45, 48));
-    palette.setColor(QPalette::WindowText, QColor(230, 230, 230));
-    palette.setColor(QPalette::Base, QColor(30, 30, 32));
-    palette.setColor(QPalette::AlternateBase, QColor(40, 40, 42));
-    palette.setColor(QPalette::Text, QColor(230, 230, 230));
-    palette.setColor(QPalette::Button, QColor(55, 55, 58));
-    palette.setColor(QPalette::ButtonText, QColor(230, 230, 230));
-    palette.setColor(QPalette::BrightText, Qt::white);
-    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::PlaceholderText, QColor(160, 160, 160));
-    palette.setColor(QPalette::ToolTipBase, QColor(55, 55, 58));
-    palette.setColor(QPalette::ToolTipText, QColor(230, 230, 230));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, QColor(127, 127, 127));
-    return palette;
-}
 
 struct Reading {
     QColor background;
@@ -116,7 +96,7 @@ protected:
     void SetUp() override {
         UiTest::SetUp();
         original = QApplication::palette();
-        QApplication::setPalette(GetParam() ? DarkPalette()
+        QApplication::setPalette(GetParam() ? LMDarkDesktopPalette::make()
                                             : QApplication::style()->standardPalette());
         ctrl = LMFormatSelectionWndCtrl::shared();
         d = LMFormatSelectionWndCtrlPrivate::get(ctrl);

@@ -5,6 +5,7 @@
 #include "ILMFormatNode.h"
 #include "ILMFormatPreset.h"
 #include "ILMMediaFormatPopup.h"
+#include "LMDarkDesktopPalette.h"
 #include "LMDemoConverter.h"
 #include "LMDemoHostWindow.h"
 #include "LMDemoScreenshot.h"
@@ -23,7 +24,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QLineEdit>
-#include <QPalette>
 #include <QProcess>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -40,24 +40,6 @@ namespace {
 // user would.
 LMFormatSelectionWndCtrlPrivate* Popup() {
     return LMFormatSelectionWndCtrlPrivate::get(LMFormatSelectionWndCtrl::shared());
-}
-
-// The palette of a dark desktop theme, for the tour's dark steps.
-QPalette DarkDesktopPalette() {
-    QPalette palette;
-    palette.setColor(QPalette::Window, QColor(45, 45, 48));
-    palette.setColor(QPalette::WindowText, QColor(230, 230, 230));
-    palette.setColor(QPalette::Base, QColor(30, 30, 32));
-    palette.setColor(QPalette::AlternateBase, QColor(40, 40, 42));
-    palette.setColor(QPalette::Text, QColor(230, 230, 230));
-    palette.setColor(QPalette::Button, QColor(55, 55, 58));
-    palette.setColor(QPalette::ButtonText, QColor(230, 230, 230));
-    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::PlaceholderText, QColor(160, 160, 160));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, QColor(127, 127, 127));
-    return palette;
 }
 
 } // namespace
@@ -303,7 +285,7 @@ bool LMDemoTour::editorSteps() {
 // and numbered after it so that the light pictures keep their names.
 bool LMDemoTour::darkSteps() {
     const QPalette light = QApplication::palette();
-    QApplication::setPalette(DarkDesktopPalette());
+    QApplication::setPalette(LMDarkDesktopPalette::make());
     settle();
     // 14. The first category, one preset chosen and the pointer over another.
     QTest::mouseClick(m_host->formatButton(), Qt::LeftButton);
