@@ -10,6 +10,12 @@ QPalette LMDarkDesktopPalette::make() {
     palette.setColor(QPalette::Text, QColor(230, 230, 230));
     palette.setColor(QPalette::Button, QColor(55, 55, 58));
     palette.setColor(QPalette::ButtonText, QColor(230, 230, 230));
+    // The bevels' shades, which frames and separators draw with.
+    palette.setColor(QPalette::Light, QColor(75, 75, 78));
+    palette.setColor(QPalette::Midlight, QColor(65, 65, 68));
+    palette.setColor(QPalette::Mid, QColor(40, 40, 42));
+    palette.setColor(QPalette::Dark, QColor(25, 25, 27));
+    palette.setColor(QPalette::Shadow, QColor(10, 10, 10));
     palette.setColor(QPalette::BrightText, Qt::white);
     palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
     palette.setColor(QPalette::HighlightedText, Qt::white);
