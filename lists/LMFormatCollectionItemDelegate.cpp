@@ -4,6 +4,7 @@
 #include "LMFormatCellLayout.h"
 #include "LMFormatCollectionModel.h"
 #include "LMFormatDataView.h"
+#include "LMThemeColors.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -22,7 +23,7 @@ constexpr qreal kFocusRingInset = 3.0;
 
 // The button glyphs are drawn rather than shipped, at each common scale factor,
 // so they stay sharp on every screen.
-QIcon glyphIcon(const std::function<void(QPainter&)>& draw) {
+QIcon glyphIcon(const QColor& ink, const std::function<void(QPainter&, const QColor&)>& draw) {
     QIcon icon;
     for (const qreal ratio : {1.0, 2.0, 3.0}) {
         QPixmap pixmap(QSize(kGlyphSize, kGlyphSize) * ratio);
@@ -30,16 +31,16 @@ QIcon glyphIcon(const std::function<void(QPainter&)>& draw) {
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(QColor(96, 96, 96), 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        draw(painter);
+        painter.setPen(QPen(ink, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        draw(painter, ink);
         painter.end();
         icon.addPixmap(pixmap);
     }
     return icon;
 }
 
-QIcon pencilIcon() {
-    return glyphIcon([](QPainter& painter) {
+QIcon pencilIcon(const QColor& ink) {
+    return glyphIcon(ink, [](QPainter& painter, const QColor&) {
         painter.translate(kGlyphSize / 2.0, kGlyphSize / 2.0);
         painter.rotate(-45.0);
         QPainterPath body;
@@ -55,18 +56,12 @@ QIcon pencilIcon() {
     });
 }
 
-QIcon crossIcon() {
-    return glyphIcon([](QPainter& painter) {
-        painter.setPen(QPen(QColor(96, 96, 96), 1.6, Qt::SolidLine, Qt::RoundCap));
+QIcon crossIcon(const QColor& ink) {
+    return glyphIcon(ink, [](QPainter& painter, const QColor& color) {
+        painter.setPen(QPen(color, 1.6, Qt::SolidLine, Qt::RoundCap));
         painter.drawLine(QPointF(4.5, 4.5), QPointF(11.5, 11.5));
         painter.drawLine(QPointF(11.5, 4.5), QPointF(4.5, 11.5));
     });
-}
-
-// The description is secondary: a little smaller than the title.
-QFont descriptionFont(QFont font) {
-    font.setPointSizeF(font.pointSizeF() * 0.9);
-    return font;
 }
 
 void drawText(QPainter* painter, const QRect& rect, const QFont& font, const QColor& color,
@@ -95,7 +90,10 @@ LMFormatCollectionItemDelegate::LMFormatCollectionItemDelegate(CellProvider cell
                                                                HeightProvider height,
                                                                QObject* parent)
     : QStyledItemDelegate(parent), m_cells(std::move(cells)), m_height(std::move(height)),
-      m_editIcon(pencilIcon()), m_removeIcon(crossIcon()) {}
+      m_editIcon(pencilIcon(LMThemeColors::glyph(false))),
+      m_removeIcon(crossIcon(LMThemeColors::glyph(false))),
+      m_darkEditIcon(pencilIcon(LMThemeColors::glyph(true))),
+      m_darkRemoveIcon(crossIcon(LMThemeColors::glyph(true))) {}
 
 LMFormatCollectionItemDelegate::~LMFormatCollectionItemDelegate() = default;
 
@@ -104,13 +102,17 @@ void LMFormatCollectionItemDelegate::paint(QPainter* painter, const QStyleOption
     LMFormatDataView* cell = m_cells ? m_cells(index.row(), option.rect) : nullptr;
     if (!cell)
         return;
+    // The text's colours are chosen against what lies behind it: the row's
+    // highlight when it has one, the list's base otherwise.
+    const LMThemeColors colors(option.palette);
+    const QColor fill = colors.rowHighlight();
+    const QColor behind = cell->highlighted() ? fill : option.palette.color(QPalette::Base);
     painter->save();
     painter->translate(option.rect.topLeft());
-    cell->drawRect(painter);
+    cell->drawRect(painter, fill);
     painter->restore();
 
     const QFont smallFont = descriptionFont(option.font);
-    const QColor textColor = option.palette.color(QPalette::WindowText);
     const bool descriptionVisible =
         index.data(LMFormatCollectionModel::VisibleDescriptionRole).toBool();
     const LMFormatCellLayout layout = LMFormatCellLayout::of(
@@ -118,15 +120,16 @@ void LMFormatCollectionItemDelegate::paint(QPainter* painter, const QStyleOption
         descriptionVisible, cell->isEditVisible(), cell->isRemoveVisible());
     painter->save();
     drawImage(painter, layout.image, index.data(Qt::DecorationRole).value<QIcon>());
-    drawText(painter, layout.title, option.font, textColor, index.data(Qt::DisplayRole).toString());
+    drawText(painter, layout.title, option.font, colors.rowText(behind),
+             index.data(Qt::DisplayRole).toString());
     if (descriptionVisible)
-        drawText(painter, layout.description, smallFont, textColor,
+        drawText(painter, layout.description, smallFont, colors.rowSecondaryText(behind),
                  index.data(LMFormatCollectionModel::DescriptionRole).toString());
     painter->restore();
     const auto down = cell->actionButtonDown();
-    paintButton(painter, option, layout.edit, m_editIcon,
+    paintButton(painter, option, layout.edit, colors.dark() ? m_darkEditIcon : m_editIcon,
                 down == LMFormatDataView::ActionButton::Edit);
-    paintButton(painter, option, layout.remove, m_removeIcon,
+    paintButton(painter, option, layout.remove, colors.dark() ? m_darkRemoveIcon : m_removeIcon,
                 down == LMFormatDataView::ActionButton::Remove);
 
     if (option.state & QStyle::State_HasFocus)
@@ -146,6 +149,12 @@ void LMFormatCollectionItemDelegate::paintFocusRing(QPainter* painter,
     const qreal inset = kFocusRingInset + kFocusRingWidth / 2.0;
     painter->drawRoundedRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset), 6.0, 6.0);
     painter->restore();
+}
+
+// The description is secondary: a little smaller than the title, and greyer.
+QFont LMFormatCollectionItemDelegate::descriptionFont(QFont font) {
+    font.setPointSizeF(font.pointSizeF() * 0.9);
+    return font;
 }
 
 QColor LMFormatCollectionItemDelegate::focusRingColor(const QPalette& palette) {

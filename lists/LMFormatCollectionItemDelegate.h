@@ -32,6 +32,8 @@ public:
                const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
+    // The font of a row's description, from the list's font.
+    static QFont descriptionFont(QFont font);
     // Colour of the focus ring in a list of that palette.
     static QColor focusRingColor(const QPalette& palette);
 
@@ -44,4 +46,7 @@ private:
     HeightProvider m_height;
     QIcon m_editIcon;
     QIcon m_removeIcon;
+    // The same glyphs, light, for dark palettes.
+    QIcon m_darkEditIcon;
+    QIcon m_darkRemoveIcon;
 };

@@ -9,6 +9,7 @@
 #include "LMFormatDataViewItem.h"
 #include "LMFormatInternationalizationMgr.h"
 #include "LMKeyText.h"
+#include "LMThemeColors.h"
 
 #include <QCursor>
 #include <QHelpEvent>
@@ -613,7 +614,8 @@ void LMFormatCollectionView::paintEvent(QPaintEvent* event) {
     if (d->model->rowCount() > 0 || d->emptyText.isEmpty())
         return;
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
+    // Greyed as a row's description is, and as readable.
+    painter.setPen(LMThemeColors(palette()).rowSecondaryText(palette().color(QPalette::Base)));
     painter.drawText(viewport()->rect().adjusted(12, 12, -12, -12),
                      Qt::AlignCenter | Qt::TextWordWrap, d->emptyText);
 }

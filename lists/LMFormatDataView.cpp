@@ -189,8 +189,12 @@ void LMFormatDataView::setNeedsDisplay() {
         host->update(d->geometry);
 }
 
-void LMFormatDataView::drawRect(QPainter* painter) const {
-    if (!d->mouseIn && !selected())
+bool LMFormatDataView::highlighted() const {
+    return d->mouseIn || selected();
+}
+
+void LMFormatDataView::drawRect(QPainter* painter, const QColor& fill) const {
+    if (!highlighted())
         return;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
@@ -198,7 +202,7 @@ void LMFormatDataView::drawRect(QPainter* painter) const {
     background.addRoundedRect(QRectF(rect()).adjusted(kHighlightInset, kHighlightInset,
                                                       -kHighlightInset, -kHighlightInset),
                               kHighlightRadius, kHighlightRadius);
-    painter->fillPath(background, highlightColor());
+    painter->fillPath(background, fill);
     painter->restore();
 }
 

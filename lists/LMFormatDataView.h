@@ -34,7 +34,8 @@ public:
     // The grey offered for row borders; the list strokes it around the
     // keyboard's current row.
     static QColor borderColor();
-    // Colour of the hover and selection background.
+    // Colour of the hover and selection background under a light palette; a
+    // dark one gets LMThemeColors' dark counterpart.
     static QColor highlightColor();
 
     // The delegate's answer; false without a delegate.
@@ -75,8 +76,10 @@ public:
     // Repaints the row where its list shows it.
     void setNeedsDisplay();
     // The background of a hovered or selected row (hover and selection look
-    // the same), in row coordinates; nothing otherwise.
-    void drawRect(QPainter* painter) const;
+    // the same), in row coordinates, in fill; nothing otherwise.
+    void drawRect(QPainter* painter, const QColor& fill = highlightColor()) const;
+    // Whether drawRect paints anything: the row is hovered or selected.
+    bool highlighted() const;
 
     LMFormatInternationalizationMgr* lizationMgr() const;
 

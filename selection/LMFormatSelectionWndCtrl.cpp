@@ -16,6 +16,7 @@
 #include "LMProgressIndicator.h"
 #include "LMSingleton.h"
 #include "LMTabHeaderView.h"
+#include "LMThemeColors.h"
 #include "ui_LMFormatSelectionWndCtrl.h"
 
 #include <QApplication>
@@ -239,7 +240,7 @@ void LMFormatSelectionWndCtrl::keyPressEvent(QKeyEvent* event) {
 void LMFormatSelectionWndCtrl::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), palette().color(QPalette::Base));
-    painter.setPen(QColor(191, 191, 191));
+    painter.setPen(LMThemeColors(palette()).border());
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

@@ -2,6 +2,7 @@
 #include "LMTabButtonCell.h"
 
 #include "LMTabHeaderView.h"
+#include "LMThemeColors.h"
 
 #include <QAbstractButton>
 #include <QFontMetricsF>
@@ -23,12 +24,6 @@ constexpr qreal kImageSpacing = 4.0;
 // Artwork is drawn at most this size; larger sources are scaled down to it.
 constexpr int kMaxImageExtent = 18;
 constexpr qreal kFocusRingWidth = 2.0;
-
-// The fills are fixed light colours, so the title stays dark whatever palette
-// the host application uses; a light palette text colour would vanish on them.
-QColor titleColor(bool enabled) {
-    return enabled ? QColor(0, 0, 0, 217) : QColor(0, 0, 0, 64);
-}
 
 } // namespace
 
@@ -67,9 +62,20 @@ void LMTabButtonCell::setBackgroundColor(const QColor& color) {
     m_backgroundColor = color;
 }
 
+// A light palette shows the cell's own colours; a dark one their dark
+// counterparts, so the strip does not stand light over a dark list.
+QColor LMTabButtonCell::fillFor(const QPalette& palette, bool on) const {
+    const LMThemeColors colors(palette);
+    if (!colors.dark())
+        return on ? m_selectedBackgroundColor : m_backgroundColor;
+    return on ? colors.selectedTabBackground() : colors.tabBackground();
+}
+
 void LMTabButtonCell::drawWithFrame(QPainter& painter, const QRectF& frame,
                                     const QAbstractButton& view) const {
-    drawBezelWithFrame(painter, frame, view.isChecked());
+    const LMThemeColors colors(view.palette());
+    drawBezel(painter, frame, view.isChecked(), fillFor(view.palette(), view.isChecked()),
+              colors.dark() ? colors.border() : m_borderColor);
     drawInteriorWithFrame(painter, frame, view);
     if (view.hasFocus())
         drawFocusRingWithFrame(painter, frame, view.palette());
@@ -92,6 +98,12 @@ QColor LMTabButtonCell::focusRingColor(const QPalette& palette) {
 }
 
 void LMTabButtonCell::drawBezelWithFrame(QPainter& painter, const QRectF& frame, bool on) const {
+    drawBezel(painter, frame, on, on ? m_selectedBackgroundColor : m_backgroundColor,
+              m_borderColor);
+}
+
+void LMTabButtonCell::drawBezel(QPainter& painter, const QRectF& frame, bool on, const QColor& fill,
+                                const QColor& border) {
     painter.save();
     // Start from nothing, so a translucent fill shows what lies behind the
     // strip rather than an earlier drawing of the tab.
@@ -102,11 +114,11 @@ void LMTabButtonCell::drawBezelWithFrame(QPainter& painter, const QRectF& frame,
     QRectF box = frame;
     if (on)
         box.setHeight(frame.height() + 1.0);
-    painter.fillRect(box, on ? m_selectedBackgroundColor : m_backgroundColor);
+    painter.fillRect(box, fill);
 
     // A one-point pen centred half a point inside the edges lies wholly inside
     // the rectangle, so the border is one crisp line at every scale factor.
-    QPen pen(m_borderColor, 1.0);
+    QPen pen(border, 1.0);
     pen.setJoinStyle(Qt::MiterJoin);
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
@@ -143,7 +155,8 @@ void LMTabButtonCell::drawInteriorWithFrame(QPainter& painter, const QRectF& fra
     }
     if (!title.isEmpty()) {
         painter.setFont(view.font());
-        painter.setPen(titleColor(view.isEnabled()));
+        painter.setPen(LMThemeColors(view.palette())
+                           .tabTitle(fillFor(view.palette(), view.isChecked()), view.isEnabled()));
         painter.drawText(QRectF(x, frame.top(), titleWidth, frame.height()),
                          Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
                          title);

@@ -10,8 +10,9 @@ class QRectF;
 class QWidget;
 
 // Draws one tab of the popup's tab strip: a flat rectangle with a thin border,
-// white when the tab is the selected one and light lilac-grey otherwise, with the
-// tab's image leading its title. The button that owns the cell hands it the
+// white when the tab is the selected one and light lilac-grey otherwise (under a
+// dark palette, the list's dark base and a dark lilac), with the tab's image
+// leading its title. The button that owns the cell hands it the
 // frame and its own state; the cell keeps only the colours.
 class LMTabButtonCell {
 public:
@@ -32,9 +33,9 @@ public:
     // and title, and the focus ring while the button has the focus.
     void drawWithFrame(QPainter& painter, const QRectF& frame, const QAbstractButton& view) const;
 
-    // Background and border. A selected tab's rectangle is one point taller than
-    // the frame, so its bottom border lies just outside the button and the tab
-    // reads as open toward the list below it; the button's own bounds clip it.
+    // Background and border in the cell's colours. A selected tab's rectangle is one point taller
+    // than the frame, so its bottom border lies just outside the button and the tab reads as open
+    // toward the list below it; the button's own bounds clip it.
     void drawBezelWithFrame(QPainter& painter, const QRectF& frame, bool on) const;
 
     // The button's image, scaled down to the tab's height and leading the title,
@@ -44,9 +45,7 @@ public:
                                const QAbstractButton& view) const;
 
     // A two-point ring inside the frame in the highlight colour of palette,
-    // drawn over the tab while it has the keyboard focus. The tabs' fills are
-    // fixed light colours, on which the highlight of light and dark palettes
-    // alike stands out.
+    // drawn over the tab while it has the keyboard focus.
     void drawFocusRingWithFrame(QPainter& painter, const QRectF& frame,
                                 const QPalette& palette) const;
     static QColor focusRingColor(const QPalette& palette);
@@ -56,6 +55,11 @@ public:
     void resetCursorRect(QWidget& view) const;
 
 private:
+    // The tab's fill under palette, selected (on) or not.
+    QColor fillFor(const QPalette& palette, bool on) const;
+    static void drawBezel(QPainter& painter, const QRectF& frame, bool on, const QColor& fill,
+                          const QColor& border);
+
     QColor m_selectedBackgroundColor;
     QColor m_borderColor;
     QColor m_backgroundColor;

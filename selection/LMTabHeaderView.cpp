@@ -5,6 +5,7 @@
 #include "LMKeyText.h"
 #include "LMTabButton.h"
 #include "LMTabHeaderViewDelegate.h"
+#include "LMThemeColors.h"
 
 #include <QIcon>
 #include <QKeyEvent>
@@ -169,7 +170,8 @@ void LMTabHeaderView::paintEvent(QPaintEvent* event) {
     QWidget::paintEvent(event);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setPen(QPen(borderColor(), 1.0));
+    const LMThemeColors colors(palette());
+    painter.setPen(QPen(colors.dark() ? colors.border() : borderColor(), 1.0));
     // Half a point above the bottom edge, the one-point line fills the strip's
     // bottom row exactly.
     const QRectF bounds(rect());

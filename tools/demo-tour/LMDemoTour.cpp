@@ -5,6 +5,7 @@
 #include "ILMFormatNode.h"
 #include "ILMFormatPreset.h"
 #include "ILMMediaFormatPopup.h"
+#include "LMDarkDesktopPalette.h"
 #include "LMDemoConverter.h"
 #include "LMDemoHostWindow.h"
 #include "LMDemoScreenshot.h"
@@ -113,7 +114,8 @@ bool LMDemoTour::run() {
     m_host->show();
     settle();
 
-    if (!popupSteps() || !choiceSteps() || !editorSteps() || (m_convert && !conversionSteps()))
+    if (!popupSteps() || !choiceSteps() || !editorSteps() || !darkSteps() ||
+        (m_convert && !conversionSteps()))
         return false;
     std::printf("%d screenshots written.\n", m_shots);
     return true;
@@ -276,6 +278,37 @@ bool LMDemoTour::editorSteps() {
     // 11. A preset without a video stream: the video section is disabled.
     return shootEditor(wav->FormatPresetAt(0)->Clone(), wav,
                        QStringLiteral("11-editor-audio-only"));
+}
+
+// The popup and the editor once more, on a desktop with a dark theme. Taken
+// before the conversion, which may fail on a machine without FFmpeg's encoders,
+// and numbered after it so that the light pictures keep their names.
+bool LMDemoTour::darkSteps() {
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(LMDarkDesktopPalette::make());
+    settle();
+    // 14. The first category, one preset chosen and the pointer over another.
+    QTest::mouseClick(m_host->formatButton(), Qt::LeftButton);
+    settle();
+    clickTab(1);
+    auto* video = static_cast<LMFormatCollectionView*>(categoryPresetList(0));
+    bool shot = check(video && video->model()->rowCount() > 3, "the first category has no presets");
+    if (shot) {
+        video->selectItemsAtIndexPaths({1}, QAbstractItemView::EnsureVisible);
+        hoverRow(video, 3);
+        shot = shoot(QStringLiteral("14-dark-popup"));
+    }
+    QTest::keyClick(Popup()->searchField(), Qt::Key_Escape);
+    settle();
+    // 15. The editor on a video preset.
+    const auto catalogue = ILMFmtPresetDataSource::Shared()->GetExternalFormatPresets();
+    const std::shared_ptr<const ILMFormatNode> mp4 =
+        std::as_const(*catalogue->ChildAt(0)).ChildAt(0);
+    shot =
+        shot && shootEditor(mp4->FormatPresetAt(0)->Clone(), mp4, QStringLiteral("15-dark-editor"));
+    QApplication::setPalette(light);
+    settle();
+    return shot;
 }
 
 bool LMDemoTour::conversionSteps() {

@@ -42,6 +42,7 @@ private:
     bool shootEditor(std::shared_ptr<Lumeran::ILMFormatPreset> preset,
                      std::shared_ptr<const Lumeran::ILMFormatNode> node, const QString& name);
     bool conversionSteps();
+    bool darkSteps();
 
     std::string m_cataloguePath;
     QString m_outputDir;
