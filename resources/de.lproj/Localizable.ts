@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Recent</source>
-        <translation>Zuletzt verwendet</translation>
+        <translation>Zuletzt</translation>
     </message>
     <message>
         <source>Device</source>

@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>Custom</source>
-        <translation>Personalizados</translation>
+        <translation>Propios</translation>
     </message>
     <message>
         <source>Search</source>

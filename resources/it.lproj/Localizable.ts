@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>Custom</source>
-        <translation>Personalizzati</translation>
+        <translation>Personali</translation>
     </message>
     <message>
         <source>Search</source>

@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Recent</source>
-        <translation>最近使った項目</translation>
+        <translation>最近の項目</translation>
     </message>
     <message>
         <source>Device</source>

@@ -57,11 +57,11 @@
     </message>
     <message>
         <source>Web Video</source>
-        <translation>Vídeo para a web</translation>
+        <translation>Vídeo web</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation>Personalizados</translation>
+        <translation>Próprios</translation>
     </message>
     <message>
         <source>Search</source>

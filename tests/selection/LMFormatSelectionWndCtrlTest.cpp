@@ -12,6 +12,7 @@
 #include "LMFormatEditingWndCtrl.h"
 #include "LMFormatInternationalizationMgr.h"
 #include "LMProgressIndicator.h"
+#include "LMTabButtonCell.h"
 #include "LMTabHeaderView.h"
 #include "LMUiTestSupport.h"
 
@@ -20,6 +21,7 @@
 #include <QComboBox>
 #include <QCursor>
 #include <QFile>
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -719,6 +721,29 @@ TEST_F(LMFormatSelectionWndCtrlTest, TabTitlesFollowALanguageChange) {
                                        QStringLiteral("Recent")));
     EXPECT_NE(TabTitles().first(), QStringLiteral("Recent"));
     EXPECT_NE(d->searchField()->placeholderText(), QStringLiteral("Search"));
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, EveryTabTitleFitsItsTabWholeInEveryLanguage) {
+    LoadDefault();
+    Popup();
+    LMFormatInternationalizationMgr* mgr = LMFormatInternationalizationMgr::sharedObject();
+    const QStringList languages{LMFormatLanguageEnglish, LMFormatLanguageJapanese,
+                                LMFormatLanguageChinese, LMFormatLanguageFrench,
+                                LMFormatLanguageGerman,  LMFormatLanguageItalian,
+                                LMFormatLanguageSpanish, LMFormatLanguagePortuguese};
+    for (const QString& language : languages) {
+        mgr->setLanguage(language);
+        ASSERT_EQ(mgr->language(), language);
+        // Recent, every category of the default catalogue, and Custom.
+        ASSERT_EQ(d->tabHeaderView()->countOfTab(), 6U);
+        for (QAbstractButton* tab : d->tabHeaderView()->tabButtons()) {
+            const qreal room = LMTabButtonCell::titleRoomForBounds(QRectF(tab->rect()), *tab);
+            const qreal width = QFontMetricsF(tab->font()).horizontalAdvance(tab->text());
+            EXPECT_FALSE(tab->text().isEmpty());
+            EXPECT_LE(width, room) << language.toStdString() << ": \"" << tab->text().toStdString()
+                                   << "\" needs " << width << " of " << room;
+        }
+    }
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, AnEditRequestHidesThePopupAndRunsTheEditor) {
