@@ -363,5 +363,13 @@
         <source>Remove (%1)</source>
         <translation>Entfernen (%1)</translation>
     </message>
+    <message>
+        <source>Scroll tabs left</source>
+        <translation>Tabs nach links blättern</translation>
+    </message>
+    <message>
+        <source>Scroll tabs right</source>
+        <translation>Tabs nach rechts blättern</translation>
+    </message>
 </context>
 </TS>

@@ -363,5 +363,13 @@
         <source>Remove (%1)</source>
         <translation>Eliminar (%1)</translation>
     </message>
+    <message>
+        <source>Scroll tabs left</source>
+        <translation>Desplazar pestañas a la izquierda</translation>
+    </message>
+    <message>
+        <source>Scroll tabs right</source>
+        <translation>Desplazar pestañas a la derecha</translation>
+    </message>
 </context>
 </TS>

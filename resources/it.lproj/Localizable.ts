@@ -363,5 +363,13 @@
         <source>Remove (%1)</source>
         <translation>Rimuovi (%1)</translation>
     </message>
+    <message>
+        <source>Scroll tabs left</source>
+        <translation>Scorri le schede a sinistra</translation>
+    </message>
+    <message>
+        <source>Scroll tabs right</source>
+        <translation>Scorri le schede a destra</translation>
+    </message>
 </context>
 </TS>

@@ -363,5 +363,13 @@
         <source>Remove (%1)</source>
         <translation>削除（%1）</translation>
     </message>
+    <message>
+        <source>Scroll tabs left</source>
+        <translation>タブを左へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll tabs right</source>
+        <translation>タブを右へスクロール</translation>
+    </message>
 </context>
 </TS>

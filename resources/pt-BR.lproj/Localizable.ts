@@ -363,5 +363,13 @@
         <source>Remove (%1)</source>
         <translation>Remover (%1)</translation>
     </message>
+    <message>
+        <source>Scroll tabs left</source>
+        <translation>Rolar abas para a esquerda</translation>
+    </message>
+    <message>
+        <source>Scroll tabs right</source>
+        <translation>Rolar abas para a direita</translation>
+    </message>
 </context>
 </TS>
