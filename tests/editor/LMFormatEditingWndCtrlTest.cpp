@@ -348,11 +348,7 @@ TEST_F(LMFormatEditingWndCtrlTest, OpensCentredOnTheScreen) {
 
 TEST_F(LMFormatEditingWndCtrlTest, EveryLabelAndButtonTextFitsWholeInEveryLanguage) {
     LMFormatInternationalizationMgr* mgr = LMFormatInternationalizationMgr::sharedObject();
-    const QStringList languages{LMFormatLanguageEnglish, LMFormatLanguageJapanese,
-                                LMFormatLanguageChinese, LMFormatLanguageFrench,
-                                LMFormatLanguageGerman,  LMFormatLanguageItalian,
-                                LMFormatLanguageSpanish, LMFormatLanguagePortuguese};
-    for (const QString& language : languages) {
+    for (const QString& language : TestSupport::EveryLanguage()) {
         mgr->setLanguage(language);
         ASSERT_EQ(mgr->language(), language);
         int checked = 0;

@@ -802,11 +802,7 @@ TEST_F(LMFormatSelectionWndCtrlTest, EveryTabTitleFitsItsTabWholeInEveryLanguage
     LoadDefault();
     Popup();
     LMFormatInternationalizationMgr* mgr = LMFormatInternationalizationMgr::sharedObject();
-    const QStringList languages{LMFormatLanguageEnglish, LMFormatLanguageJapanese,
-                                LMFormatLanguageChinese, LMFormatLanguageFrench,
-                                LMFormatLanguageGerman,  LMFormatLanguageItalian,
-                                LMFormatLanguageSpanish, LMFormatLanguagePortuguese};
-    for (const QString& language : languages) {
+    for (const QString& language : TestSupport::EveryLanguage()) {
         mgr->setLanguage(language);
         ASSERT_EQ(mgr->language(), language);
         // Recent, every category of the default catalogue, and Custom.
