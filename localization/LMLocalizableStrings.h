@@ -80,7 +80,7 @@ public:
     // Keys that are looked up but not bound: the titles and descriptions of the
     // default catalogue and of the lists the data source makes, the option names
     // of the preset editor, and the words of the popup and the editor.
-    static constexpr std::array<const char*, 41> otherKeys{
+    static constexpr std::array<const char*, 43> otherKeys{
         // Titles and descriptions of the default catalogue.
         QT_TRANSLATE_NOOP("Localizable", "Smartphone"),
         QT_TRANSLATE_NOOP("Localizable", "Tablet"),
@@ -123,6 +123,8 @@ public:
         QT_TRANSLATE_NOOP("Localizable", "Next tab (%1)"),
         QT_TRANSLATE_NOOP("Localizable", "Previous tab (%1)"),
         QT_TRANSLATE_NOOP("Localizable", "Move between tabs (%1)"),
+        QT_TRANSLATE_NOOP("Localizable", "Scroll tabs left"),
+        QT_TRANSLATE_NOOP("Localizable", "Scroll tabs right"),
         QT_TRANSLATE_NOOP("Localizable", "Type anywhere to search"),
         QT_TRANSLATE_NOOP("Localizable", "Move to the list (%1)"),
         QT_TRANSLATE_NOOP("Localizable", "Choose the first match (%1)"),

@@ -30,6 +30,9 @@ screen_config "$build/offscreen-2x.json" 2
 export QT_LOGGING_RULES="${QT_LOGGING_RULES:-qt.qpa.*=false}"
 QT_QPA_PLATFORM="offscreen:configfile=$build/offscreen-1x.json" "$tour" "$shots" 2>&1 |
     grep -v "does not support" || true
+# A catalogue of twelve categories, in a session of its own: its tabs scroll.
+QT_QPA_PLATFORM="offscreen:configfile=$build/offscreen-1x.json" "$tour" "$shots" \
+    --twelve-categories 2>&1 | grep -v "does not support" || true
 QT_QPA_PLATFORM="offscreen:configfile=$build/offscreen-2x.json" "$tour" "$shots/2x" \
     --without-conversion 2>&1 | grep -v "does not support" || true
 ls "$shots"/*.png "$shots"/2x/*.png > /dev/null

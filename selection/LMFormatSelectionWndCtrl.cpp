@@ -389,6 +389,11 @@ QRect LMFormatSelectionWndCtrlPrivate::frameOfFormatNodeView() const {
 
 void LMFormatSelectionWndCtrlPrivate::layOutContent() {
     ui->tabHeaderView->resize(ui->contentView->width(), ui->tabHeaderView->height());
+    // The search field stands at the strip's right end; the tabs stop a little
+    // before it, and scroll when there are more of them than that leaves room for.
+    constexpr int searchFieldGap = 8;
+    ui->tabHeaderView->setTrailingReserve(ui->tabHeaderView->width() -
+                                          ui->searchField->geometry().left() + searchFieldGap);
     if (LMProgressIndicator* indicator = ui->loadPrgInd) {
         // Until the data arrives the indicator is the content; it stays small
         // and in the middle of the list's place.

@@ -16,13 +16,16 @@
 
 namespace {
 
-// Room kept free between the tab's edges and its image and title.
-constexpr qreal kHorizontalMargin = 6.0;
+// Room kept free between the tab's edges and its image and title. The tab's
+// width is fixed, so every point kept here is one less for the title; titles
+// in the longer languages need nearly all of what is left.
+constexpr qreal kHorizontalMargin = 4.0;
 constexpr qreal kVerticalMargin = 4.0;
 // Gap between the image and the title.
-constexpr qreal kImageSpacing = 4.0;
+constexpr qreal kImageSpacing = 3.0;
 // Artwork is drawn at most this size; larger sources are scaled down to it.
-constexpr int kMaxImageExtent = 18;
+// A small-icon size reads well beside the title and leaves it the room.
+constexpr int kMaxImageExtent = 16;
 constexpr qreal kFocusRingWidth = 2.0;
 
 } // namespace
@@ -127,21 +130,32 @@ void LMTabButtonCell::drawBezel(QPainter& painter, const QRectF& frame, bool on,
     painter.restore();
 }
 
+QSize LMTabButtonCell::imageSizeForBounds(const QRectF& frame, const QAbstractButton& view) {
+    const QIcon image = view.icon();
+    if (image.isNull())
+        return {};
+    const int extent =
+        std::clamp(static_cast<int>(frame.height() - 2 * kVerticalMargin), 0, kMaxImageExtent);
+    return image.actualSize(QSize(extent, extent));
+}
+
+qreal LMTabButtonCell::titleRoomForBounds(const QRectF& frame, const QAbstractButton& view) {
+    const QSize imageSize = imageSizeForBounds(frame, view);
+    const qreal imageWidth = imageSize.isEmpty() ? 0.0 : imageSize.width();
+    const qreal spacing = imageWidth > 0.0 && !view.text().isEmpty() ? kImageSpacing : 0.0;
+    return std::max(0.0, frame.width() - 2 * kHorizontalMargin - imageWidth - spacing);
+}
+
 void LMTabButtonCell::drawInteriorWithFrame(QPainter& painter, const QRectF& frame,
                                             const QAbstractButton& view) const {
     const QIcon image = view.icon();
-    QSize imageSize;
-    if (!image.isNull()) {
-        const int extent =
-            std::clamp(static_cast<int>(frame.height() - 2 * kVerticalMargin), 0, kMaxImageExtent);
-        imageSize = image.actualSize(QSize(extent, extent));
-    }
+    const QSize imageSize = imageSizeForBounds(frame, view);
     const qreal imageWidth = imageSize.isEmpty() ? 0.0 : imageSize.width();
     const qreal spacing = imageWidth > 0.0 && !view.text().isEmpty() ? kImageSpacing : 0.0;
 
     const QFontMetricsF metrics(view.font());
-    const qreal room = std::max(0.0, frame.width() - 2 * kHorizontalMargin - imageWidth - spacing);
-    const QString title = metrics.elidedText(view.text(), Qt::ElideMiddle, room);
+    const QString title =
+        metrics.elidedText(view.text(), Qt::ElideMiddle, titleRoomForBounds(frame, view));
     const qreal titleWidth = title.isEmpty() ? 0.0 : metrics.horizontalAdvance(title);
 
     painter.save();

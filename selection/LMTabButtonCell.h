@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QColor>
+#include <QSize>
+#include <QtGlobal>
 
 class QAbstractButton;
 class QPainter;
@@ -43,6 +45,11 @@ public:
     // are centred together in the frame.
     void drawInteriorWithFrame(QPainter& painter, const QRectF& frame,
                                const QAbstractButton& view) const;
+    // Size the button's image is drawn at in frame; empty without an image.
+    static QSize imageSizeForBounds(const QRectF& frame, const QAbstractButton& view);
+    // Width left for the title in frame beside the image: a title wider than
+    // this is shortened.
+    static qreal titleRoomForBounds(const QRectF& frame, const QAbstractButton& view);
 
     // A two-point ring inside the frame in the highlight colour of palette,
     // drawn over the tab while it has the keyboard focus.

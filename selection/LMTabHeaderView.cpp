@@ -14,6 +14,8 @@
 #include <QPen>
 #include <QPushButton>
 #include <QStringList>
+#include <QToolButton>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <initializer_list>
@@ -24,6 +26,23 @@ namespace {
 // other languages' in that place.
 constexpr double kWideTabExtra = 15.0;
 constexpr std::size_t kWideTabIndex = 5;
+// Width of each of the two scroll arrows.
+constexpr int kArrowWidth = 18;
+// One notch of a mouse wheel, in the eighths of a degree QWheelEvent counts.
+constexpr int kWheelNotch = 120;
+
+QToolButton* makeArrow(Qt::ArrowType direction, QWidget* parent) {
+    auto* arrow = new QToolButton(parent);
+    arrow->setArrowType(direction);
+    arrow->setAutoRaise(true);
+    // Held down, an arrow keeps scrolling, as a scroll bar's does.
+    arrow->setAutoRepeat(true);
+    // The keyboard reaches every tab with Ctrl+Tab and the arrow keys, which
+    // scroll the selected tab into view; the arrows are for the mouse.
+    arrow->setFocusPolicy(Qt::NoFocus);
+    arrow->hide();
+    return arrow;
+}
 
 LMTabButton* asTab(QPushButton* button) {
     return static_cast<LMTabButton*>(button);
@@ -60,10 +79,30 @@ struct LMTabHeaderView::Private {
     QList<QPushButton*> tabButtons;
     std::size_t indexOfSelected = 0;
     LMTabHeaderViewDelegate* delegate = nullptr;
+    // The tabs' parent: it clips them to the visible area, so a scrolled tab
+    // never shows under the arrows or the search field. It stands at the
+    // strip's origin, so its coordinates are the strip's.
+    QWidget* viewport = nullptr;
+    QToolButton* scrollLeft = nullptr;
+    QToolButton* scrollRight = nullptr;
+    int scrollOffset = 0;
+    int trailingReserve = 0;
 };
 
 LMTabHeaderView::LMTabHeaderView(QWidget* parent)
     : QWidget(parent), d(std::make_unique<Private>()) {
+    d->viewport = new QWidget(this);
+    // A wheel turned over a tab scrolls the strip: the tabs themselves take no
+    // wheel events, and events that Qt did not get from the window system are
+    // not passed on to the parent, so the strip watches for them.
+    d->viewport->installEventFilter(this);
+    d->scrollLeft = makeArrow(Qt::LeftArrow, this);
+    d->scrollRight = makeArrow(Qt::RightArrow, this);
+    connect(d->scrollLeft, &QToolButton::clicked, this,
+            [this] { scrollTo(d->scrollOffset - static_cast<int>(defWidth)); });
+    connect(d->scrollRight, &QToolButton::clicked, this,
+            [this] { scrollTo(d->scrollOffset + static_cast<int>(defWidth)); });
+    updateScrolling();
     connect(lizationMgr(), &LMFormatInternationalizationMgr::languageDidChange, this,
             &LMTabHeaderView::languageDidChange);
 }
@@ -92,6 +131,7 @@ void LMTabHeaderView::addTab(const QString& titleKey, const QIcon& image) {
     button->setGeometry(frameOfTabButton(countOfTab() - 1));
     button->show();
     arrangeTabButtons();
+    updateScrolling();
 }
 
 void LMTabHeaderView::insertTab(const QString& titleKey, const QIcon& image, std::size_t index) {
@@ -103,6 +143,7 @@ void LMTabHeaderView::insertTab(const QString& titleKey, const QIcon& image, std
     d->tabButtons.insert(static_cast<qsizetype>(index), button);
     button->show();
     arrangeTabButtons();
+    updateScrolling();
 }
 
 void LMTabHeaderView::removeTabAtIndex(std::size_t index) {
@@ -113,6 +154,7 @@ void LMTabHeaderView::removeTabAtIndex(std::size_t index) {
     // delegate that rebuilds the strip), so it goes once that click is over.
     button->hide();
     button->deleteLater();
+    updateScrolling();
 }
 
 void LMTabHeaderView::clearTab() {
@@ -121,6 +163,7 @@ void LMTabHeaderView::clearTab() {
         button->deleteLater();
     }
     d->tabButtons.clear();
+    updateScrolling();
 }
 
 std::size_t LMTabHeaderView::countOfTab() const {
@@ -137,6 +180,9 @@ void LMTabHeaderView::setIndexOfSelected(std::size_t index) {
     d->indexOfSelected = index;
     for (qsizetype i = 0; i < d->tabButtons.size(); ++i)
         d->tabButtons[i]->setChecked(static_cast<std::size_t>(i) == index);
+    // However it was chosen (a click, Ctrl+Tab, the arrow keys, the host), the
+    // selected tab is the one the user must see.
+    ensureTabVisible(index);
 }
 
 QRect LMTabHeaderView::frameOfTabButton(std::size_t index) const {
@@ -147,7 +193,8 @@ QRect LMTabHeaderView::frameOfTabButton(std::size_t index) const {
         width = static_cast<int>(defWidth + kWideTabExtra);
     // The pitch stays the same after a widened tab, which therefore overlaps
     // its right-hand neighbour.
-    const int x = rect().x() + static_cast<int>(offsetX + static_cast<double>(index) * defWidth);
+    const int x = rect().x() + static_cast<int>(offsetX + static_cast<double>(index) * defWidth) -
+                  d->scrollOffset;
     // Tabs stand on the bottom edge, over the rule.
     const int height = static_cast<int>(defHeight);
     const int y = rect().y() + rect().height() - height;
@@ -164,6 +211,112 @@ void LMTabHeaderView::arrangeTabButtons() {
 
 const QList<QPushButton*>& LMTabHeaderView::tabButtons() const {
     return d->tabButtons;
+}
+
+int LMTabHeaderView::trailingReserve() const {
+    return d->trailingReserve;
+}
+
+void LMTabHeaderView::setTrailingReserve(int width) {
+    d->trailingReserve = std::max(0, width);
+    updateScrolling();
+}
+
+QRect LMTabHeaderView::visibleTabArea() const {
+    return d->viewport->geometry();
+}
+
+int LMTabHeaderView::scrollOffset() const {
+    return d->scrollOffset;
+}
+
+QAbstractButton* LMTabHeaderView::scrollLeftButton() const {
+    return d->scrollLeft;
+}
+
+QAbstractButton* LMTabHeaderView::scrollRightButton() const {
+    return d->scrollRight;
+}
+
+void LMTabHeaderView::ensureTabVisible(std::size_t index) {
+    if (index >= countOfTab())
+        return;
+    const QRect frame = frameOfTabButton(index);
+    const QRect area = visibleTabArea();
+    if (frame.left() < area.left())
+        // Scrolled back, the tab keeps the strip's left inset when it can.
+        scrollTo(d->scrollOffset - (area.left() - frame.left()) - static_cast<int>(offsetX));
+    else if (frame.right() > area.right())
+        scrollTo(d->scrollOffset + (frame.right() - area.right()));
+}
+
+int LMTabHeaderView::contentRight() const {
+    // The tabs' right end unscrolled; a French sixth tab at the end reaches
+    // past the pitch.
+    int right = 0;
+    for (std::size_t i = 0; i < countOfTab(); ++i)
+        right = std::max(right, frameOfTabButton(i).right() + 1 + d->scrollOffset);
+    return right;
+}
+
+void LMTabHeaderView::updateScrolling() {
+    const int available = std::max(0, width() - d->trailingReserve);
+    const int content = contentRight();
+    const bool overflow = content > available;
+    // The arrows stand at the end of the tabs' area, next to what the reserve
+    // keeps free, and take their room from the tabs.
+    const int areaWidth = std::max(0, overflow ? available - 2 * kArrowWidth : available);
+    d->viewport->setGeometry(0, 0, areaWidth, height());
+    const int arrowTop = height() - static_cast<int>(defHeight);
+    d->scrollLeft->setGeometry(areaWidth, arrowTop, kArrowWidth, static_cast<int>(defHeight));
+    d->scrollRight->setGeometry(areaWidth + kArrowWidth, arrowTop, kArrowWidth,
+                                static_cast<int>(defHeight));
+    d->scrollLeft->setVisible(overflow);
+    d->scrollRight->setVisible(overflow);
+    const QString left = lizationMgr()->stringForKey(QStringLiteral("Scroll tabs left"));
+    const QString right = lizationMgr()->stringForKey(QStringLiteral("Scroll tabs right"));
+    d->scrollLeft->setToolTip(left);
+    d->scrollLeft->setAccessibleName(left);
+    d->scrollRight->setToolTip(right);
+    d->scrollRight->setAccessibleName(right);
+    // A change of size or of the tabs may leave the offset past the end.
+    scrollTo(d->scrollOffset);
+}
+
+void LMTabHeaderView::scrollTo(int offset) {
+    const int maxOffset = std::max(0, contentRight() - visibleTabArea().width());
+    const int clamped = std::clamp(offset, 0, maxOffset);
+    const int delta = clamped - d->scrollOffset;
+    d->scrollOffset = clamped;
+    // Every tab moves by the same amount, so a gap left by a removal stays.
+    if (delta != 0) {
+        for (QPushButton* button : std::as_const(d->tabButtons))
+            button->move(button->pos() - QPoint(delta, 0));
+    }
+    d->scrollLeft->setEnabled(clamped > 0);
+    d->scrollRight->setEnabled(clamped < maxOffset);
+}
+
+bool LMTabHeaderView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Wheel) {
+        wheelEvent(static_cast<QWheelEvent*>(event));
+        if (event->isAccepted())
+            return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void LMTabHeaderView::wheelEvent(QWheelEvent* event) {
+    const QPoint delta = event->angleDelta();
+    // A tilt or a horizontal swipe scrolls as it points; a plain wheel down
+    // moves on to the tabs on the right.
+    const int steps = std::abs(delta.x()) > std::abs(delta.y()) ? -delta.x() : -delta.y();
+    if (steps == 0 || !d->scrollLeft->isVisible()) {
+        event->ignore();
+        return;
+    }
+    scrollTo(d->scrollOffset + steps * static_cast<int>(defWidth) / kWheelNotch);
+    event->accept();
 }
 
 void LMTabHeaderView::paintEvent(QPaintEvent* event) {
@@ -188,10 +341,12 @@ void LMTabHeaderView::resizeEvent(QResizeEvent* event) {
         frame.moveBottom(rect().bottom());
         button->setGeometry(frame);
     }
+    updateScrolling();
 }
 
 LMTabButton* LMTabHeaderView::createButton(const QString& titleKey, const QIcon& image) {
-    auto* button = new LMTabButton(titleKey, this);
+    auto* button = new LMTabButton(titleKey, d->viewport);
+    button->installEventFilter(this);
     button->setGeometry(frameOfTabButton(0));
     button->setIcon(image);
     showTitle(*button, lizationMgr()->stringForKey(titleKey), *lizationMgr());
@@ -247,4 +402,6 @@ void LMTabHeaderView::languageDidChange() {
         // tab keeps its own place, so a gap left by a removal stays.
         tab->setGeometry(frameOfTabButton(tab->tag()));
     }
+    updateScrolling();
+    ensureTabVisible(d->indexOfSelected);
 }

@@ -12,6 +12,7 @@
 class LMFormatInternationalizationMgr;
 class LMTabButton;
 class LMTabHeaderViewDelegate;
+class QAbstractButton;
 class QIcon;
 class QPushButton;
 class QString;
@@ -22,6 +23,12 @@ class QString;
 // keeps which tab is selected and tells its delegate when the user picks another
 // one. Titles are localization keys, shown in the current language and
 // re-translated when it changes; a tab's tool tip adds the keys that switch tabs.
+//
+// When the tabs need more room than the strip has beside what stands at its
+// right end (the search field), the tabs scroll: two arrow buttons appear at the
+// end of the tabs' area, the mouse wheel scrolls too, and the selected tab is
+// always scrolled into view. Tabs keep their size and pitch; what lies outside
+// the area is clipped, never squeezed.
 //
 // Indexes follow the buttons' order. Removing a tab neither moves the others nor
 // renumbers them (a gap stays until the next addition or insertion arranges the
@@ -69,8 +76,22 @@ public:
     // nothing.
     void selectTabByUser(std::size_t index);
 
-    // Where tab index stands in the strip's coordinates.
+    // Where tab index stands in the strip's coordinates, scrolled.
     QRect frameOfTabButton(std::size_t index) const;
+
+    // Width at the strip's right end kept free of tabs and arrows for what
+    // stands there (the popup's search field).
+    int trailingReserve() const;
+    void setTrailingReserve(int width);
+    // The part of the strip in which tabs are seen; a tab is drawn only inside it.
+    QRect visibleTabArea() const;
+    // How far the tabs are scrolled to the left, in points; 0 when they fit.
+    int scrollOffset() const;
+    // Scrolls so that the tab at index lies wholly inside visibleTabArea().
+    void ensureTabVisible(std::size_t index);
+    // The buttons that scroll the tabs by one tab; hidden while the tabs fit.
+    QAbstractButton* scrollLeftButton() const;
+    QAbstractButton* scrollRightButton() const;
     // Puts every tab at its index's frame and numbers it with that index.
     void arrangeTabButtons();
 
@@ -82,11 +103,17 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     // Left and Right on a focused tab select its neighbour, which takes the focus.
     void keyPressEvent(QKeyEvent* event) override;
+    // The wheel, either way, scrolls the tabs when they do not fit.
+    void wheelEvent(QWheelEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     LMTabButton* createButton(const QString& titleKey, const QIcon& image);
     void tabButtonClicked(LMTabButton* sender);
     void languageDidChange();
+    void scrollTo(int offset);
+    void updateScrolling();
+    int contentRight() const;
 
     struct Private;
     std::unique_ptr<Private> d;

@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Recent</source>
-        <translation>Zuletzt verwendet</translation>
+        <translation>Zuletzt</translation>
     </message>
     <message>
         <source>Device</source>
@@ -362,6 +362,14 @@
     <message>
         <source>Remove (%1)</source>
         <translation>Entfernen (%1)</translation>
+    </message>
+    <message>
+        <source>Scroll tabs left</source>
+        <translation>Tabs nach links blättern</translation>
+    </message>
+    <message>
+        <source>Scroll tabs right</source>
+        <translation>Tabs nach rechts blättern</translation>
     </message>
 </context>
 </TS>

@@ -363,5 +363,13 @@
         <source>Remove (%1)</source>
         <translation>Remove (%1)</translation>
     </message>
+    <message>
+        <source>Scroll tabs left</source>
+        <translation>Scroll tabs left</translation>
+    </message>
+    <message>
+        <source>Scroll tabs right</source>
+        <translation>Scroll tabs right</translation>
+    </message>
 </context>
 </TS>

@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>Custom</source>
-        <translation>Personalizados</translation>
+        <translation>Propios</translation>
     </message>
     <message>
         <source>Search</source>
@@ -362,6 +362,14 @@
     <message>
         <source>Remove (%1)</source>
         <translation>Eliminar (%1)</translation>
+    </message>
+    <message>
+        <source>Scroll tabs left</source>
+        <translation>Desplazar pestañas a la izquierda</translation>
+    </message>
+    <message>
+        <source>Scroll tabs right</source>
+        <translation>Desplazar pestañas a la derecha</translation>
     </message>
 </context>
 </TS>

@@ -363,5 +363,13 @@
         <source>Remove (%1)</source>
         <translation>Supprimer (%1)</translation>
     </message>
+    <message>
+        <source>Scroll tabs left</source>
+        <translation>Faire défiler les onglets vers la gauche</translation>
+    </message>
+    <message>
+        <source>Scroll tabs right</source>
+        <translation>Faire défiler les onglets vers la droite</translation>
+    </message>
 </context>
 </TS>

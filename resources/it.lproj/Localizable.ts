@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>Custom</source>
-        <translation>Personalizzati</translation>
+        <translation>Personali</translation>
     </message>
     <message>
         <source>Search</source>
@@ -362,6 +362,14 @@
     <message>
         <source>Remove (%1)</source>
         <translation>Rimuovi (%1)</translation>
+    </message>
+    <message>
+        <source>Scroll tabs left</source>
+        <translation>Scorri le schede a sinistra</translation>
+    </message>
+    <message>
+        <source>Scroll tabs right</source>
+        <translation>Scorri le schede a destra</translation>
     </message>
 </context>
 </TS>

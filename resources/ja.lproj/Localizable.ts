@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Recent</source>
-        <translation>最近使った項目</translation>
+        <translation>最近の項目</translation>
     </message>
     <message>
         <source>Device</source>
@@ -362,6 +362,14 @@
     <message>
         <source>Remove (%1)</source>
         <translation>削除（%1）</translation>
+    </message>
+    <message>
+        <source>Scroll tabs left</source>
+        <translation>タブを左へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll tabs right</source>
+        <translation>タブを右へスクロール</translation>
     </message>
 </context>
 </TS>

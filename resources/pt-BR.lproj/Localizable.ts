@@ -57,11 +57,11 @@
     </message>
     <message>
         <source>Web Video</source>
-        <translation>Vídeo para a web</translation>
+        <translation>Vídeo web</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation>Personalizados</translation>
+        <translation>Próprios</translation>
     </message>
     <message>
         <source>Search</source>
@@ -362,6 +362,14 @@
     <message>
         <source>Remove (%1)</source>
         <translation>Remover (%1)</translation>
+    </message>
+    <message>
+        <source>Scroll tabs left</source>
+        <translation>Rolar abas para a esquerda</translation>
+    </message>
+    <message>
+        <source>Scroll tabs right</source>
+        <translation>Rolar abas para a direita</translation>
     </message>
 </context>
 </TS>

@@ -363,5 +363,13 @@
         <source>Remove (%1)</source>
         <translation>移除（%1）</translation>
     </message>
+    <message>
+        <source>Scroll tabs left</source>
+        <translation>向左滚动标签页</translation>
+    </message>
+    <message>
+        <source>Scroll tabs right</source>
+        <translation>向右滚动标签页</translation>
+    </message>
 </context>
 </TS>

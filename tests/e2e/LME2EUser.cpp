@@ -148,7 +148,8 @@ QList<QPushButton*> TabButtons(QWidget* popup) {
     if (!strip)
         return tabs;
     // Tabs of an earlier build of the strip may linger, hidden, until deleted.
-    for (QPushButton* button : strip->findChildren<QPushButton*>(Qt::FindDirectChildrenOnly)) {
+    // They stand in the strip's clipping area, at the strip's own coordinates.
+    for (QPushButton* button : strip->findChildren<QPushButton*>()) {
         if (button->isVisible())
             tabs.append(button);
     }

@@ -16,6 +16,7 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QFontMetricsF>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -343,6 +344,39 @@ TEST_F(LMFormatEditingWndCtrlTest, OpensCentredOnTheScreen) {
         const QPoint offset = editor.frameGeometry().center() - area.center();
         EXPECT_LE(offset.manhattanLength(), 2) << offset.x() << "," << offset.y();
     });
+}
+
+TEST_F(LMFormatEditingWndCtrlTest, EveryLabelAndButtonTextFitsWholeInEveryLanguage) {
+    LMFormatInternationalizationMgr* mgr = LMFormatInternationalizationMgr::sharedObject();
+    for (const QString& language : TestSupport::EveryLanguage()) {
+        mgr->setLanguage(language);
+        ASSERT_EQ(mgr->language(), language);
+        int checked = 0;
+        edit(cataloguePreset(mp4, "High Quality"), mp4, [this, &language, &checked] {
+            const std::string where = language.toStdString();
+            for (const QLabel* label : editor.findChildren<QLabel*>()) {
+                if (!label->isVisible() || label->wordWrap() || label->text().isEmpty())
+                    continue;
+                const qreal width = QFontMetricsF(label->font()).horizontalAdvance(label->text());
+                EXPECT_LE(width, label->contentsRect().width())
+                    << where << ": label \"" << label->text().toStdString() << "\"";
+                ++checked;
+            }
+            for (const QPushButton* button : editor.findChildren<QPushButton*>()) {
+                if (!button->isVisible() || button->text().isEmpty())
+                    continue;
+                // The style's own measure of the button: text, margins and bevel.
+                EXPECT_LE(button->sizeHint().width(), button->width())
+                    << where << ": button \"" << button->text().toStdString() << "\"";
+                const qreal width = QFontMetricsF(button->font()).horizontalAdvance(button->text());
+                EXPECT_LE(width, button->contentsRect().width())
+                    << where << ": button \"" << button->text().toStdString() << "\"";
+                ++checked;
+            }
+        });
+        // Eight labels and four buttons at least.
+        EXPECT_GE(checked, 12) << language.toStdString();
+    }
 }
 
 TEST_F(LMFormatEditingWndCtrlTest, EveryOptionNameOfTheRegistryIsTranslatedOrTechnical) {

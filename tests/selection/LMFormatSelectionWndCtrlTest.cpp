@@ -12,6 +12,7 @@
 #include "LMFormatEditingWndCtrl.h"
 #include "LMFormatInternationalizationMgr.h"
 #include "LMProgressIndicator.h"
+#include "LMTabButtonCell.h"
 #include "LMTabHeaderView.h"
 #include "LMUiTestSupport.h"
 
@@ -20,6 +21,7 @@
 #include <QComboBox>
 #include <QCursor>
 #include <QFile>
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -32,6 +34,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 #include <QWindow>
 
 #include <gtest/gtest.h>
@@ -128,6 +131,24 @@ QString WriteTwoCategoryCatalogue(const QTemporaryDir& dir) {
     return path;
 }
 
+// A catalogue of count categories, "Category 1" up, one preset each.
+QString WriteCatalogueOfCategories(const QTemporaryDir& dir, int count) {
+    QJsonArray categories;
+    for (int i = 1; i <= count; ++i) {
+        const QString title = QStringLiteral("Category %1").arg(i);
+        categories.append(
+            Category(title, {Format(QStringLiteral("MP4"),
+                                    {Preset(QStringLiteral("HD 720p"), QStringLiteral("HD"))})}));
+    }
+    const QJsonObject root{{QStringLiteral("title"), QStringLiteral("Formats")},
+                           {QStringLiteral("children"), categories}};
+    const QString path = dir.filePath(QStringLiteral("categories-%1.json").arg(count));
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(QJsonDocument(root).toJson());
+    return path;
+}
+
 bool LoadCatalogue(const std::string& path) {
     auto source = ILMFmtPresetDataSource::Shared();
     source->AsyncLoadExternalDataSource(path, {});
@@ -173,6 +194,62 @@ protected:
         EXPECT_TRUE(QTest::qWaitFor([this, frame] {
             return ctrl->isVisible() && ctrl->geometry() == frame;
         })) << "the popup did not settle at its place";
+    }
+
+    bool LoadCategories(int count) {
+        if (!LoadCatalogue(WriteCatalogueOfCategories(dir, count).toStdString()))
+            return false;
+        ctrl->loadExternalDataInMainThread();
+        return true;
+    }
+
+    // The part of a tab the user sees, in the strip's coordinates: what its
+    // parents and siblings leave of it.
+    QRect SeenPartOfTab(int index) const {
+        const QWidget* tab = d->tabHeaderView()->tabButtons().at(index);
+        const QRect seen = tab->visibleRegion().boundingRect();
+        return seen.isEmpty() ? QRect()
+                              : seen.translated(tab->mapTo(d->tabHeaderView(), QPoint(0, 0)));
+    }
+
+    QRect SelectedTabFrame() const {
+        const QWidget* tab =
+            d->tabHeaderView()->tabButtons().at(qsizetype(d->tabHeaderView()->indexOfSelected()));
+        return {tab->mapTo(d->tabHeaderView(), QPoint(0, 0)), tab->size()};
+    }
+
+    // No tab, nor the arrows, shows under the search field, and every tab keeps
+    // its size.
+    void ExpectNoTabUnderTheSearchField(const std::string& where) {
+        LMTabHeaderView* strip = d->tabHeaderView();
+        const QRect field = d->searchField()->geometry();
+        for (int i = 0; i < strip->tabButtons().size(); ++i) {
+            EXPECT_FALSE(SeenPartOfTab(i).intersects(field)) << where << ": tab " << i;
+            EXPECT_EQ(strip->tabButtons().at(i)->size(), QSize(97, 27)) << where << ": tab " << i;
+        }
+        for (const QAbstractButton* arrow : {strip->scrollLeftButton(), strip->scrollRightButton()})
+            EXPECT_FALSE(arrow->isVisible() && arrow->geometry().intersects(field)) << where;
+    }
+
+    // The above, and the selected tab is seen whole.
+    void ExpectTheStripLeavesTheSearchFieldFreeAndShowsTheSelectedTab(const std::string& where) {
+        ExpectNoTabUnderTheSearchField(where);
+        LMTabHeaderView* strip = d->tabHeaderView();
+        const QRect selected = SelectedTabFrame();
+        EXPECT_TRUE(strip->visibleTabArea().contains(selected))
+            << where << ": selected tab at " << selected.x() << " of an area to "
+            << strip->visibleTabArea().right();
+        EXPECT_EQ(SeenPartOfTab(int(strip->indexOfSelected())).size(), selected.size()) << where;
+    }
+
+    // One wheel notch (120 eighths of a degree) per step over target, sent as
+    // the window sends it: to the widget under the pointer, which passes on
+    // what it does not take.
+    static void Wheel(QWidget* target, int angle) {
+        const QPointF local = target->rect().center();
+        QWheelEvent event(local, QPointF(target->mapToGlobal(local)), QPoint(), QPoint(0, angle),
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(target, &event);
     }
 
     QStringList TabTitles() const {
@@ -719,6 +796,149 @@ TEST_F(LMFormatSelectionWndCtrlTest, TabTitlesFollowALanguageChange) {
                                        QStringLiteral("Recent")));
     EXPECT_NE(TabTitles().first(), QStringLiteral("Recent"));
     EXPECT_NE(d->searchField()->placeholderText(), QStringLiteral("Search"));
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, EveryTabTitleFitsItsTabWholeInEveryLanguage) {
+    LoadDefault();
+    Popup();
+    LMFormatInternationalizationMgr* mgr = LMFormatInternationalizationMgr::sharedObject();
+    for (const QString& language : TestSupport::EveryLanguage()) {
+        mgr->setLanguage(language);
+        ASSERT_EQ(mgr->language(), language);
+        // Recent, every category of the default catalogue, and Custom.
+        ASSERT_EQ(d->tabHeaderView()->countOfTab(), 6U);
+        for (QAbstractButton* tab : d->tabHeaderView()->tabButtons()) {
+            const qreal room = LMTabButtonCell::titleRoomForBounds(QRectF(tab->rect()), *tab);
+            const qreal width = QFontMetricsF(tab->font()).horizontalAdvance(tab->text());
+            EXPECT_FALSE(tab->text().isEmpty());
+            EXPECT_LE(width, room) << language.toStdString() << ": \"" << tab->text().toStdString()
+                                   << "\" needs " << width << " of " << room;
+        }
+    }
+}
+
+// The strip with 1, 4, 6 and 12 categories: up to four the tabs fit beside the
+// search field; from six on they scroll.
+class LMTabStripOfCategoriesTest : public LMFormatSelectionWndCtrlTest,
+                                   public ::testing::WithParamInterface<int> {};
+
+TEST_P(LMTabStripOfCategoriesTest, NoTabReachesTheSearchFieldAndScrollsOnlyWhenTheyDoNotFit) {
+    const int count = GetParam();
+    ASSERT_TRUE(LoadCategories(count));
+    Popup();
+    LMTabHeaderView* strip = d->tabHeaderView();
+    ASSERT_EQ(strip->countOfTab(), std::size_t(count) + 2);
+    ExpectTheStripLeavesTheSearchFieldFreeAndShowsTheSelectedTab("on opening");
+    EXPECT_EQ(strip->scrollRightButton()->isVisible(), count >= 6);
+    EXPECT_EQ(strip->scrollLeftButton()->isVisible(), count >= 6);
+    if (count >= 6) {
+        EXPECT_TRUE(SeenPartOfTab(count + 1).isEmpty()) << "Custom is out of view";
+    } else {
+        for (int i = 0; i < count + 2; ++i)
+            EXPECT_EQ(SeenPartOfTab(i).size(), QSize(97, 27)) << "tab " << i;
+    }
+}
+
+TEST_P(LMTabStripOfCategoriesTest, CtrlTabRoundTheStripKeepsTheSelectedTabInView) {
+    ASSERT_TRUE(LoadCategories(GetParam()));
+    PopupActive();
+    LMTabHeaderView* strip = d->tabHeaderView();
+    const std::size_t count = strip->countOfTab();
+    ASSERT_EQ(count, std::size_t(GetParam()) + 2);
+    for (std::size_t step = 1; step <= count; ++step) {
+        const std::size_t expected = (strip->indexOfSelected() + 1) % count;
+        Press(Qt::Key_Tab, Qt::ControlModifier);
+        ASSERT_EQ(strip->indexOfSelected(), expected);
+        ExpectTheStripLeavesTheSearchFieldFreeAndShowsTheSelectedTab("Ctrl+Tab to " +
+                                                                     std::to_string(expected));
+    }
+    for (std::size_t step = 1; step <= count; ++step) {
+        const std::size_t expected = (strip->indexOfSelected() + count - 1) % count;
+        Press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+        ASSERT_EQ(strip->indexOfSelected(), expected);
+        ExpectTheStripLeavesTheSearchFieldFreeAndShowsTheSelectedTab("Ctrl+Shift+Tab to " +
+                                                                     std::to_string(expected));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(OneFourSixAndTwelve, LMTabStripOfCategoriesTest,
+                         ::testing::Values(1, 4, 6, 12));
+
+TEST_F(LMFormatSelectionWndCtrlTest, TheArrowButtonsScrollTheTabsOneTabAtATimeToEitherEnd) {
+    ASSERT_TRUE(LoadCategories(12));
+    Popup();
+    LMTabHeaderView* strip = d->tabHeaderView();
+    QAbstractButton* left = strip->scrollLeftButton();
+    QAbstractButton* right = strip->scrollRightButton();
+    ASSERT_TRUE(right->isVisible());
+    EXPECT_EQ(strip->scrollOffset(), 0);
+    EXPECT_FALSE(left->isEnabled());
+    const int lastTab = int(strip->countOfTab()) - 1;
+
+    int clicks = 0;
+    while (right->isEnabled() && clicks < 20) {
+        const QPoint before = strip->tabButtons().at(lastTab)->pos();
+        QTest::mouseClick(right, Qt::LeftButton);
+        ++clicks;
+        const int moved = before.x() - strip->tabButtons().at(lastTab)->pos().x();
+        EXPECT_GT(moved, 0);
+        EXPECT_LE(moved, 97);
+        ExpectNoTabUnderTheSearchField("click " + std::to_string(clicks));
+    }
+    EXPECT_GT(clicks, 1);
+    EXPECT_FALSE(right->isEnabled());
+    EXPECT_TRUE(left->isEnabled());
+    // At the right end Custom is seen whole, the first tab not at all.
+    EXPECT_EQ(SeenPartOfTab(lastTab).size(), QSize(97, 27));
+    EXPECT_TRUE(strip->visibleTabArea().contains(strip->tabButtons().at(lastTab)->geometry()));
+    EXPECT_TRUE(SeenPartOfTab(0).isEmpty());
+
+    while (left->isEnabled() && clicks < 40) {
+        QTest::mouseClick(left, Qt::LeftButton);
+        ++clicks;
+    }
+    EXPECT_EQ(strip->scrollOffset(), 0);
+    EXPECT_EQ(SeenPartOfTab(0).size(), QSize(97, 27));
+    EXPECT_EQ(strip->tabButtons().at(0)->geometry(), QRect(10, strip->height() - 27, 97, 27));
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, TheMouseWheelScrollsTheTabsBothWays) {
+    ASSERT_TRUE(LoadCategories(12));
+    Popup();
+    LMTabHeaderView* strip = d->tabHeaderView();
+    QWidget* tab = strip->tabButtons().at(2);
+    const int x = tab->pos().x();
+    Wheel(tab, -120);
+    EXPECT_EQ(strip->scrollOffset(), 97);
+    EXPECT_EQ(tab->pos().x(), x - 97);
+    // Far past the end stops at the end, with Custom in view.
+    for (int i = 0; i < 30; ++i)
+        Wheel(strip->tabButtons().at(int(strip->countOfTab()) - 1), -120);
+    EXPECT_FALSE(strip->scrollRightButton()->isEnabled());
+    EXPECT_EQ(SeenPartOfTab(int(strip->countOfTab()) - 1).size(), QSize(97, 27));
+    ExpectNoTabUnderTheSearchField("wheel");
+    for (int i = 0; i < 30; ++i)
+        Wheel(strip->tabButtons().at(0), 120);
+    EXPECT_EQ(strip->scrollOffset(), 0);
+    EXPECT_EQ(tab->pos().x(), x);
+}
+
+TEST_F(LMFormatSelectionWndCtrlTest, AClickOnAPartlySeenTabScrollsItWholeIntoView) {
+    ASSERT_TRUE(LoadCategories(12));
+    Popup();
+    LMTabHeaderView* strip = d->tabHeaderView();
+    // The last tab the area shows, cut by its right edge or not.
+    int partly = -1;
+    for (int i = 0; i < int(strip->countOfTab()); ++i) {
+        if (!SeenPartOfTab(i).isEmpty())
+            partly = i;
+    }
+    ASSERT_GE(partly, 0);
+    const QRect seen = SeenPartOfTab(partly);
+    QTest::mouseClick(strip->tabButtons().at(partly), Qt::LeftButton, {},
+                      seen.center() - strip->tabButtons().at(partly)->pos());
+    EXPECT_EQ(strip->indexOfSelected(), std::size_t(partly));
+    ExpectTheStripLeavesTheSearchFieldFreeAndShowsTheSelectedTab("clicked");
 }
 
 TEST_F(LMFormatSelectionWndCtrlTest, AnEditRequestHidesThePopupAndRunsTheEditor) {

@@ -26,6 +26,12 @@ void LoadDefaultCatalogueIntoSharedDataSource() {
     source->WaitForLoadingComplete();
 }
 
+QStringList EveryLanguage() {
+    QStringList languages = LMFormatInternationalizationMgr::sharedObject()->supportLanguages();
+    languages.append(LMFormatLanguageChinese);
+    return languages;
+}
+
 void ClearSharedLists() {
     auto source = ILMFmtPresetDataSource::Shared();
     for (const auto& item : source->GetRecentList())

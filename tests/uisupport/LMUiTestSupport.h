@@ -3,6 +3,8 @@
 
 #include "LMTestEnvironment.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -12,6 +14,10 @@ namespace Lumeran::TestSupport {
 // Loads the default catalogue into the shared data source and waits for it; only
 // the first call in a process loads, later calls return at once.
 void LoadDefaultCatalogueIntoSharedDataSource();
+
+// Every language the framework has texts for: the seven of the language menu
+// and Chinese, which a host may set.
+QStringList EveryLanguage();
 
 // Empties the shared data source's recent and custom lists and saves them, so a
 // test that runs after another in the same process starts from nothing.

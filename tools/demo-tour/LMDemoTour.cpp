@@ -23,11 +23,16 @@
 #include <QCursor>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStyleHints>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
@@ -125,6 +130,77 @@ bool LMDemoTour::run() {
     return true;
 }
 
+bool LMDemoTour::runTwelveCategories() {
+    if (!check(QDir().mkpath(m_outputDir), "cannot make the screenshot folder"))
+        return false;
+    std::printf("Screenshots:\n");
+    LMFormatSelectionWndCtrl::shared()->winId();
+    m_host = std::make_unique<LMDemoHostWindow>();
+    m_host->move(60, 40);
+    m_host->show();
+    settle();
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("twelve-categories.json"));
+    if (!check(dir.isValid() && writeTwelveCategories(path), "cannot write the catalogue"))
+        return false;
+    auto popup = ILMMediaFormatPopup::Shared();
+    popup->SetupExternalFormatData(path.toStdString());
+    popup->WaitForFormatDataLoadingComplete();
+    settle();
+    QTest::mouseClick(m_host->formatButton(), Qt::LeftButton);
+    settle();
+    auto* ctrl = LMFormatSelectionWndCtrl::shared();
+    LMTabHeaderView* strip = Popup()->tabHeaderView();
+    if (!check(ctrl->isVisible() && strip->countOfTab() == 14,
+               "the popup did not open on twelve categories"))
+        return false;
+    QCursor::setPos(ctrl->mapToGlobal(QPoint(790, 440)));
+    // 12. The tabs that do not fit beside the search field scroll: first as the
+    //     popup opens, then at the end, after clicks on the right arrow, and
+    //     with Custom chosen by Ctrl+Page Up from the first tab.
+    if (!shoot(QStringLiteral("12-twelve-categories")))
+        return false;
+    for (int i = 0; i < 20 && strip->scrollRightButton()->isEnabled(); ++i)
+        QTest::mouseClick(strip->scrollRightButton(), Qt::LeftButton);
+    if (!shoot(QStringLiteral("12-twelve-categories-scrolled")))
+        return false;
+    clickTab(0);
+    QTest::keyClick(ctrl->windowHandle(), Qt::Key_PageUp, Qt::ControlModifier);
+    if (!check(strip->indexOfSelected() == 13, "Ctrl+Page Up did not reach Custom") ||
+        !shoot(QStringLiteral("12-twelve-categories-custom")))
+        return false;
+    for (int i = 0; i < 4; ++i)
+        QTest::keyClick(ctrl->windowHandle(), Qt::Key_Tab, Qt::ControlModifier);
+    if (!shoot(QStringLiteral("12-twelve-categories-ctrl-tab")))
+        return false;
+    std::printf("%d screenshots written.\n", m_shots);
+    return true;
+}
+
+bool LMDemoTour::writeTwelveCategories(const QString& path) const {
+    // The default catalogue's categories and eight more made of its first
+    // category's formats, as a catalogue of a larger application would be.
+    QFile source(QString::fromStdString(m_cataloguePath));
+    if (!source.open(QIODevice::ReadOnly))
+        return false;
+    QJsonObject root = QJsonDocument::fromJson(source.readAll()).object();
+    QJsonArray categories = root.value(QStringLiteral("children")).toArray();
+    if (categories.isEmpty())
+        return false;
+    const QJsonObject model = categories.first().toObject();
+    for (const char* title :
+         {"Archive", "Broadcast", "Camera", "Editing", "Phones", "Social", "Stage", "Studio"}) {
+        if (categories.size() >= 12)
+            break;
+        QJsonObject category = model;
+        category.insert(QStringLiteral("title"), QString::fromLatin1(title));
+        categories.append(category);
+    }
+    root.insert(QStringLiteral("children"), categories);
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(root).toJson()) > 0;
+}
+
 void LMDemoTour::seedCustomPresets() {
     auto source = ILMFmtPresetDataSource::Shared();
     // Two presets the user saved in an earlier session.
@@ -205,13 +281,23 @@ bool LMDemoTour::choiceSteps() {
     if (!shoot(QStringLiteral("05-custom")))
         return false;
 
-    // 6. The same popup in French, on the first category.
-    LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageFrench);
+    // 6. The same popup in French, on the first category, then the tab strip
+    //    in every language, each title whole.
+    LMFormatInternationalizationMgr* mgr = LMFormatInternationalizationMgr::sharedObject();
+    mgr->setLanguage(LMFormatLanguageFrench);
     clickTab(1);
     QCursor::setPos(ctrl->mapToGlobal(QPoint(790, 440)));
     if (!shoot(QStringLiteral("06-french")))
         return false;
-    LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageEnglish);
+    for (const QString& language :
+         {LMFormatLanguageEnglish, LMFormatLanguageJapanese, LMFormatLanguageChinese,
+          LMFormatLanguageFrench, LMFormatLanguageGerman, LMFormatLanguageItalian,
+          LMFormatLanguageSpanish, LMFormatLanguagePortuguese}) {
+        mgr->setLanguage(language);
+        if (!shoot(QStringLiteral("06-tabs-") + mgr->codeWithLanguage(language)))
+            return false;
+    }
+    mgr->setLanguage(LMFormatLanguageEnglish);
 
     // 7. Escape dismisses the popup; the host keeps its last choice.
     QTest::keyClick(Popup()->searchField(), Qt::Key_Escape);

@@ -25,6 +25,9 @@ public:
 
     // Runs every step; false (with a message on stderr) when a step fails.
     bool run();
+    // Instead of the tour: the popup on a catalogue of twelve categories, written
+    // from the catalogue's own, its tab strip scrolled by the arrows and the keys.
+    bool runTwelveCategories();
 
 private:
     bool shoot(const QString& name);
@@ -36,6 +39,7 @@ private:
     QAbstractItemView* categoryPresetList(int category) const;
     QAbstractItemView* customPresetList() const;
     void seedCustomPresets();
+    bool writeTwelveCategories(const QString& path) const;
     bool popupSteps();
     bool choiceSteps();
     bool editorSteps();

@@ -3,7 +3,7 @@
 // display: it drives the demo host's window through the popup, the editor and a
 // conversion as a user would and writes a screenshot of every step.
 //     QT_QPA_PLATFORM=offscreen lmfp_demo_tour [--catalogue FILE.json]
-//         [--without-conversion] DIR
+//         [--without-conversion | --twelve-categories] DIR
 
 #include "ILMAppSettings.h"
 #include "LMDefaultCatalogue.h"
@@ -33,8 +33,12 @@ int main(int argc, char** argv) {
     const QCommandLineOption noConversion(
         QStringLiteral("without-conversion"),
         QStringLiteral("Leave the conversion out (a second pass at another scale)."));
+    const QCommandLineOption twelve(
+        QStringLiteral("twelve-categories"),
+        QStringLiteral("Instead of the tour, show the popup on twelve categories."));
     parser.addOption(catalogue);
     parser.addOption(noConversion);
+    parser.addOption(twelve);
     parser.addPositionalArgument(QStringLiteral("dir"),
                                  QStringLiteral("Folder the screenshots are written to."));
     parser.process(app);
@@ -51,5 +55,6 @@ int main(int argc, char** argv) {
     ILMAppSettings::UseSettingsFile(settingsDir.filePath(QStringLiteral("demo.ini")).toStdString());
     LMDemoTour tour(cataloguePath, parser.positionalArguments().constFirst(),
                     !parser.isSet(noConversion));
-    return tour.run() ? 0 : 1;
+    const bool done = parser.isSet(twelve) ? tour.runTwelveCategories() : tour.run();
+    return done ? 0 : 1;
 }
