@@ -119,24 +119,28 @@ LMPresetBackupFolder::LMPresetBackupFolder(std::string folder, int keep)
     : m_folder(std::move(folder)), m_keep(std::max(1, keep)) {}
 
 bool LMPresetBackupFolder::KeepReplaced(const std::string& value) const {
-    if (Write(QString(), value, value).empty())
+    int rolling = 0;
+    if (Write(QString(), value, value, &rolling).empty())
         return false;
-    Prune();
+    // A full folder had its oldest backup written over: nothing to prune then.
+    if (rolling > m_keep)
+        Prune();
     return true;
 }
 
 std::string LMPresetBackupFolder::KeepUnreadable(const std::string& value,
                                                  const std::string& identity) const {
-    return Write(QString::fromLatin1(kUnreadablePrefix), value,
-                 identity.empty() ? value : identity);
+    return Write(QString::fromLatin1(kUnreadablePrefix), value, identity.empty() ? value : identity,
+                 nullptr);
 }
 
 std::string LMPresetBackupFolder::Write(const QString& prefix, const std::string& value,
-                                        const std::string& identity) const {
+                                        const std::string& identity, int* rollingAfter) const {
     if (m_folder.empty())
         return {};
     const QDir dir(QString::fromStdString(m_folder));
-    if (!dir.mkpath(QStringLiteral(".")))
+    // One look when the folder is there, as it is at every save but the first.
+    if (!dir.exists() && !dir.mkpath(QStringLiteral(".")))
         return {};
     const bool unreadable = !prefix.isEmpty();
     const QString hash = unreadable ? UnreadableHash(identity) : ReplacedHash(identity);
@@ -170,6 +174,8 @@ std::string LMPresetBackupFolder::Write(const QString& prefix, const std::string
     if (!same.isEmpty()) {
         if (unreadable)
             return dir.filePath(same).toStdString();
+        if (rollingAfter)
+            *rollingAfter = rolling + 1;
         if (QFile::rename(dir.filePath(same), target))
             return target.toStdString();
         ++rolling;
@@ -179,6 +185,8 @@ std::string LMPresetBackupFolder::Write(const QString& prefix, const std::string
     // With the folder full, the oldest backup would be pruned right after: its
     // file is written over instead, which spares the file system a new one.
     const QString reuse = rolling >= m_keep && !oldest.isEmpty() ? dir.filePath(oldest) : QString();
+    if (rollingAfter)
+        *rollingAfter = rolling + (reuse.isEmpty() ? 1 : 0);
     return WriteCopy(target, value, reuse) ? target.toStdString() : std::string();
 }
 

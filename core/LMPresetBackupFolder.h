@@ -39,8 +39,10 @@ public:
     static bool ReadValue(const std::string& path, std::string* value);
 
 private:
-    std::string Write(const QString& prefix, const std::string& value,
-                      const std::string& identity) const;
+    // *rollingAfter (when given) receives how many rolling backups the folder
+    // holds once this one is written.
+    std::string Write(const QString& prefix, const std::string& value, const std::string& identity,
+                      int* rollingAfter) const;
     void Prune() const;
 
     std::string m_folder;

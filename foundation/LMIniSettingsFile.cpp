@@ -533,11 +533,12 @@ bool LMIniSettingsFile::Write(const std::vector<std::string>& keys, const Update
     };
     if (error)
         error->clear();
-    const QString path = QString::fromStdString(m_path);
-    const QFileInfo info(path);
-    if (info.exists() && !info.isFile())
+    // One look at the file; its folder is made only when the file is not there.
+    struct stat status {};
+    const bool exists = ::stat(m_path.c_str(), &status) == 0;
+    if (exists && !S_ISREG(status.st_mode))
         return fail("not a regular file: " + m_path);
-    if (!QDir().mkpath(info.absolutePath()))
+    if (!exists && !QDir().mkpath(QFileInfo(QString::fromStdString(m_path)).absolutePath()))
         return fail("cannot create the folder of " + m_path);
     LMSettingsLockFile lock(m_path + ".lock");
     if (!lock.Lock(kLockWaitMs, kStaleLockMs))
