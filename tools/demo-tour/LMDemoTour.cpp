@@ -331,7 +331,15 @@ bool LMDemoTour::editorSteps() {
     const std::shared_ptr<const ILMFormatNode> wav =
         std::as_const(*catalogue->ChildAt(1)).ChildAt(0);
 
-    // 8. The editor on the host's current choice, opened with "Edit…".
+    // 8. The editor on the host's current choice, opened with "Edit…": a video
+    //    preset ("HD 1080p" of the first format), so both sections are filled.
+    QTest::mouseClick(m_host->formatButton(), Qt::LeftButton);
+    settle();
+    clickTab(1);
+    clickRow(categoryPresetList(0), 3);
+    if (!check(m_host->currentPreset() && m_host->currentPreset()->VideoCodecCount() > 0,
+               "no video preset was chosen for the editor"))
+        return false;
     bool shot = false;
     QTimer::singleShot(0, this, [&] {
         QWidget* editor = QApplication::activeModalWidget();
