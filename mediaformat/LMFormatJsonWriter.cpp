@@ -358,10 +358,10 @@ std::string LMFormatJsonWriter::PresetText(const LMFormatPreset& preset) {
 void LMFormatJsonWriter::AppendString(std::string_view text, std::string& out) {
     const bool ascii = std::all_of(text.begin(), text.end(),
                                    [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-    // Bytes that are no UTF-8 become what Qt makes of them (U+FFFD), and Qt drops
-    // a byte order mark at the start.
-    if (!ascii && (text.substr(0, 3) == "\xEF\xBB\xBF" ||
-                   !simdjson::validate_utf8(text.data(), text.size()))) {
+    // Bytes that are no UTF-8 become what Qt makes of them (U+FFFD). A byte order
+    // mark at the start of a text is kept, where Qt's conversion dropped it and
+    // the text did not read back as it was.
+    if (!ascii && !simdjson::validate_utf8(text.data(), text.size())) {
         AppendQtValue(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())), out);
         return;
     }
