@@ -66,7 +66,7 @@ QJsonValue QtOf(std::string_view raw) {
 }
 
 QString QtKey(std::string_view key) {
-    return QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size()));
+    return LMFormatJsonWriter::ToQString(key);
 }
 
 // Characters as QString counts them (UTF-16 code units).

@@ -8,6 +8,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QStringDecoder>
 
 #include <simdjson.h>
 
@@ -362,7 +363,7 @@ void LMFormatJsonWriter::AppendString(std::string_view text, std::string& out) {
     // mark at the start of a text is kept, where Qt's conversion dropped it and
     // the text did not read back as it was.
     if (!ascii && !simdjson::validate_utf8(text.data(), text.size())) {
-        AppendQtValue(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())), out);
+        AppendQtValue(ToQString(text), out);
         return;
     }
     out.reserve(out.size() + text.size() + 2);
@@ -379,6 +380,12 @@ void LMFormatJsonWriter::AppendString(std::string_view text, std::string& out) {
     }
     out.append(text.substr(plain));
     out.push_back('"');
+}
+
+QString LMFormatJsonWriter::ToQString(std::string_view text) {
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless |
+                                                     QStringDecoder::Flag::ConvertInitialBom);
+    return decoder(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
 }
 
 void LMFormatJsonWriter::AppendQtValue(const QJsonValue& value, std::string& out) {

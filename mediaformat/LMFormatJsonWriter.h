@@ -29,6 +29,9 @@ public:
     static void AppendString(std::string_view text, std::string& out);
     // Any value as QJsonDocument writes it.
     static void AppendQtValue(const QJsonValue& value, std::string& out);
+    // UTF-8 text as a QString, a byte order mark at its start kept (QString's
+    // own conversion drops it, and the text would not read back as it was).
+    static QString ToQString(std::string_view text);
 };
 
 } // namespace Lumeran
