@@ -54,7 +54,7 @@ void LMFmtNodeViewCtrl::viewDidLoad() {
         connect(list, &LMFormatCollectionView::textTyped, this, &LMFmtNodeViewCtrl::textTyped);
     }
     connect(lizationMgr(), &LMFormatInternationalizationMgr::languageDidChange, this,
-            &LMFmtNodeViewCtrl::updateEmptyText);
+            &LMFmtNodeViewCtrl::updateListTexts);
 }
 
 bool LMFmtNodeViewCtrl::removable() const {
@@ -117,7 +117,7 @@ void LMFmtNodeViewCtrl::setSelectedFormat(std::shared_ptr<const Lumeran::ILMForm
 
 void LMFmtNodeViewCtrl::loadSelectedNodeFormat() {
     fmtListView()->reloadData();
-    updateEmptyText();
+    updateListTexts();
 }
 
 void LMFmtNodeViewCtrl::loadChildrenNode() {
@@ -310,7 +310,7 @@ void LMFmtNodeViewCtrl::resetCollectionViewMouseState(LMFormatCollectionView* vi
 
 // Empty lists say why, rather than showing blank: a search that found nothing,
 // or a Custom tab before any preset was saved.
-void LMFmtNodeViewCtrl::updateEmptyText() {
+void LMFmtNodeViewCtrl::updateListTexts() {
     const bool empty = fmtListView()->numberOfItems() == 0;
     QString hint;
     if (d->searchFmtNode && empty)
@@ -320,4 +320,19 @@ void LMFmtNodeViewCtrl::updateEmptyText() {
                  std::as_const(*Lumeran::ILMFmtPresetDataSource::Shared()).GetCustomList())
         hint = QStringLiteral("Presets you save with “Save as New Preset” appear here.");
     fmtListView()->setEmptyText(hint.isEmpty() ? hint : lizationMgr()->stringForKey(hint));
+
+    // What a screen reader says of the lists: which category's formats, and
+    // which format's presets.
+    const auto shownTitle = [this](const std::shared_ptr<const Lumeran::ILMFormatNode>& node) {
+        return node ? lizationMgr()->stringForKey(QString::fromStdString(node->Title()))
+                    : QString();
+    };
+    nodeListView()->setAccessibleName(lizationMgr()->stringForKey(QStringLiteral("Formats")));
+    nodeListView()->setAccessibleDescription(lizationMgr()
+                                                 ->stringForKey(QStringLiteral("Formats of %1"))
+                                                 .arg(shownTitle(d->rootFmtNode)));
+    fmtListView()->setAccessibleName(lizationMgr()->stringForKey(QStringLiteral("Presets")));
+    fmtListView()->setAccessibleDescription(lizationMgr()
+                                                ->stringForKey(QStringLiteral("Presets of %1"))
+                                                .arg(shownTitle(d->selectedNode)));
 }

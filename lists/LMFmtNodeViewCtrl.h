@@ -89,7 +89,7 @@ private:
     std::shared_ptr<const Lumeran::ILMFormatNode> currentListRoot() const;
     void scrollViewPortDidChanged(QObject* scroller);
     void resetCollectionViewMouseState(LMFormatCollectionView* view);
-    void updateEmptyText();
+    void updateListTexts();
 
     struct Private;
     std::unique_ptr<Private> d;

@@ -44,7 +44,7 @@ void LMFmtRecentViewCtrl::viewDidLoad() {
     connect(recentListView(), &LMFormatCollectionView::textTyped, this,
             &LMFmtRecentViewCtrl::textTyped);
     connect(lizationMgr(), &LMFormatInternationalizationMgr::languageDidChange, this,
-            &LMFmtRecentViewCtrl::updateEmptyText);
+            &LMFmtRecentViewCtrl::updateListTexts);
 }
 
 LMFormatDataDelegate* LMFmtRecentViewCtrl::delegate() const {
@@ -57,7 +57,7 @@ void LMFmtRecentViewCtrl::setDelegate(LMFormatDataDelegate* delegate) {
 
 void LMFmtRecentViewCtrl::loadRecentList() {
     recentListView()->reloadData();
-    updateEmptyText();
+    updateListTexts();
 }
 
 void LMFmtRecentViewCtrl::searchRecentList(const QString& text) {
@@ -139,7 +139,7 @@ void LMFmtRecentViewCtrl::formatDataViewItemRequireRemove(LMFormatDataViewItem* 
     source->RemoveRecentItem(item->recentItem());
     source->SaveRecentList();
     recentListView()->deleteItemsAtIndexPaths({path});
-    updateEmptyText();
+    updateListTexts();
 }
 
 void LMFmtRecentViewCtrl::showEvent(QShowEvent* event) {
@@ -172,11 +172,16 @@ void LMFmtRecentViewCtrl::scrollViewPortDidChanged() {
 
 // An empty list says why, rather than showing blank: a search that found
 // nothing, or no choice made yet.
-void LMFmtRecentViewCtrl::updateEmptyText() {
+void LMFmtRecentViewCtrl::updateListTexts() {
     QString hint;
     if (d->searchRecentList && d->searchRecentList->empty())
         hint = QStringLiteral("No matching presets");
     else if (!d->searchRecentList && recentListView()->numberOfItems() == 0)
         hint = QStringLiteral("The presets you choose appear here.");
     recentListView()->setEmptyText(hint.isEmpty() ? hint : lizationMgr()->stringForKey(hint));
+    // What a screen reader says of the list.
+    recentListView()->setAccessibleName(
+        lizationMgr()->stringForKey(QStringLiteral("Recent presets")));
+    recentListView()->setAccessibleDescription(
+        lizationMgr()->stringForKey(QStringLiteral("The presets you choose appear here.")));
 }

@@ -70,7 +70,7 @@ private:
     Lumeran::ILMFmtPresetDataSource::RecentList currentList() const;
     std::shared_ptr<const Lumeran::ILMFmtPresetRecentItem> entryAt(int index) const;
     void scrollViewPortDidChanged();
-    void updateEmptyText();
+    void updateListTexts();
 
     struct Private;
     std::unique_ptr<Private> d;

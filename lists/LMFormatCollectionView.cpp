@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "LMFormatCollectionView.h"
 
+#include "LMFormatCellLayout.h"
 #include "LMFormatCollectionItemDelegate.h"
 #include "LMFormatCollectionModel.h"
 #include "LMFormatCollectionViewDataSource.h"
@@ -8,6 +9,7 @@
 #include "LMFormatDataView.h"
 #include "LMFormatDataViewItem.h"
 #include "LMFormatInternationalizationMgr.h"
+#include "LMFormatListAccessible.h"
 #include "LMKeyText.h"
 #include "LMThemeColors.h"
 
@@ -89,6 +91,21 @@ struct LMFormatCollectionView::Private {
         // A cell that appears under a still pointer is hovered at once.
         item->resetMouseState();
         return item;
+    }
+
+    // Runs work on the cell of row, made for the while if the row has none;
+    // a cell made for a row out of view goes back to the pool afterwards.
+    template <typename Work>
+    auto withItem(int row, Work work) {
+        const bool hadCell = live.count(row) != 0;
+        LMFormatDataViewItem* item = hasRow(row) ? itemForRow(row, true) : nullptr;
+        auto result = work(item);
+        if (!hadCell && item && !isRowVisible(row)) {
+            const auto made = live.find(row);
+            if (made != live.end())
+                recycle(made);
+        }
+        return result;
     }
 
     // The cell of the keyboard's current row, made if need be; null without one.
@@ -222,6 +239,8 @@ struct LMFormatCollectionView::Private {
 
 LMFormatCollectionView::LMFormatCollectionView(QWidget* parent)
     : QListView(parent), d(new Private(this)) {
+    // Screen readers see rows they can choose, edit and remove.
+    LMFormatListAccessible::installFactory();
     d->model = new LMFormatCollectionModel(
         [this] {
             return d->dataSource ? d->dataSource->collectionViewNumberOfItemsInSection(this, 0) : 0;
@@ -417,6 +436,44 @@ int LMFormatCollectionView::indexPathForItem(const LMFormatDataViewItem* item) c
 
 LMFormatCollectionModel* LMFormatCollectionView::collectionModel() const {
     return d->model;
+}
+
+bool LMFormatCollectionView::canEditItemAtIndexPath(int indexPath) {
+    return d->withItem(indexPath,
+                       [](const LMFormatDataViewItem* item) { return item && item->editable(); });
+}
+
+bool LMFormatCollectionView::canRemoveItemAtIndexPath(int indexPath) {
+    return d->withItem(indexPath,
+                       [](const LMFormatDataViewItem* item) { return item && item->removable(); });
+}
+
+void LMFormatCollectionView::editItemAtIndexPath(int indexPath) {
+    LMFormatDataViewItem* item = d->hasRow(indexPath) ? d->itemForRow(indexPath, true) : nullptr;
+    if (item && item->editable())
+        item->settingClicked();
+}
+
+void LMFormatCollectionView::removeItemAtIndexPath(int indexPath) {
+    LMFormatDataViewItem* item = d->hasRow(indexPath) ? d->itemForRow(indexPath, true) : nullptr;
+    if (item && item->removable())
+        removeItem(item, indexPath);
+}
+
+QRect LMFormatCollectionView::actionButtonRect(int indexPath,
+                                               LMFormatDataView::ActionButton button) {
+    return d->withItem(indexPath, [&](const LMFormatDataViewItem* item) {
+        if (!item)
+            return QRect();
+        // Laid out as on hover, when every button the row offers shows.
+        const LMFormatCellLayout layout = LMFormatCellLayout::of(
+            d->rectOfRow(indexPath), 0, 0, false, item->editable(), item->removable());
+        if (button == LMFormatDataView::ActionButton::Edit && item->editable())
+            return layout.edit;
+        if (button == LMFormatDataView::ActionButton::Remove && item->removable())
+            return layout.remove;
+        return QRect();
+    });
 }
 
 void LMFormatCollectionView::mousePressEvent(QMouseEvent* event) {

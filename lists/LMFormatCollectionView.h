@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "LMFormatDataView.h"
+
 #include <QList>
 #include <QListView>
 #include <QString>
@@ -87,6 +89,19 @@ public:
     int indexPathForItem(const LMFormatDataViewItem* item) const;
 
     LMFormatCollectionModel* collectionModel() const;
+
+    // What a row offers besides being chosen, as its edit and remove buttons
+    // show it on hover. For assistive technology, which works any row, shown or
+    // not; a row out of view gets a cell only while it is asked.
+    bool canEditItemAtIndexPath(int indexPath);
+    bool canRemoveItemAtIndexPath(int indexPath);
+    // As a click on the row's edit or remove button; nothing where the row
+    // offers none. Removing moves the focus as Delete does.
+    void editItemAtIndexPath(int indexPath);
+    void removeItemAtIndexPath(int indexPath);
+    // Where the row's edit or remove button is drawn when the row is hovered,
+    // in the viewport's coordinates; empty when the row offers none.
+    QRect actionButtonRect(int indexPath, LMFormatDataView::ActionButton button);
 
 Q_SIGNALS:
     // Printable text typed while the list has the focus.

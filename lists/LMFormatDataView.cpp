@@ -166,16 +166,16 @@ LMFormatDataView::ActionButton LMFormatDataView::actionButtonDown() const {
     return d->down;
 }
 
-QString LMFormatDataView::actionButtonToolTip(ActionButton button) const {
+QString LMFormatDataView::actionButtonToolTip(ActionButton button) {
     // The tip names the keys that do the same on the list's current row.
     switch (button) {
     case ActionButton::Edit:
-        return lizationMgr()
+        return LMFormatInternationalizationMgr::sharedObject()
             ->stringForKey(QStringLiteral("Edit (%1)"))
             .arg(LMKeyText::names({QKeyCombination(Qt::Key_F2), Qt::CTRL | Qt::Key_E,
                                    QKeyCombination(Qt::Key_Menu)}));
     case ActionButton::Remove:
-        return lizationMgr()
+        return LMFormatInternationalizationMgr::sharedObject()
             ->stringForKey(QStringLiteral("Remove (%1)"))
             .arg(LMKeyText::names({QKeyCombination(Qt::Key_Delete)}));
     case ActionButton::None:

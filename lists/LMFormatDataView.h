@@ -70,8 +70,8 @@ public:
     // Shows a button pressed while the mouse is held on it (None releases).
     void setActionButtonDown(ActionButton button);
     ActionButton actionButtonDown() const;
-    // The button's name in the current language.
-    QString actionButtonToolTip(ActionButton button) const;
+    // The button's name in the current language, with the keys that do the same.
+    static QString actionButtonToolTip(ActionButton button);
 
     // Repaints the row where its list shows it.
     void setNeedsDisplay();

@@ -80,7 +80,7 @@ public:
     // Keys that are looked up but not bound: the titles and descriptions of the
     // default catalogue and of the lists the data source makes, the option names
     // of the preset editor, and the words of the popup and the editor.
-    static constexpr std::array<const char*, 43> otherKeys{
+    static constexpr std::array<const char*, 51> otherKeys{
         // Titles and descriptions of the default catalogue.
         QT_TRANSLATE_NOOP("Localizable", "Smartphone"),
         QT_TRANSLATE_NOOP("Localizable", "Tablet"),
@@ -130,6 +130,15 @@ public:
         QT_TRANSLATE_NOOP("Localizable", "Choose the first match (%1)"),
         QT_TRANSLATE_NOOP("Localizable", "Edit (%1)"),
         QT_TRANSLATE_NOOP("Localizable", "Remove (%1)"),
+        // What screen readers say of the popup's parts and of a row's actions.
+        QT_TRANSLATE_NOOP("Localizable", "Choose"),
+        QT_TRANSLATE_NOOP("Localizable", "Categories"),
+        QT_TRANSLATE_NOOP("Localizable", "Recent presets"),
+        QT_TRANSLATE_NOOP("Localizable", "Presets"),
+        QT_TRANSLATE_NOOP("Localizable", "Formats of %1"),
+        QT_TRANSLATE_NOOP("Localizable", "Presets of %1"),
+        QT_TRANSLATE_NOOP("Localizable", "Clear search"),
+        QT_TRANSLATE_NOOP("Localizable", "Show all presets again"),
     };
 
     // boundKeys as the manager hands them out, duplicates included.

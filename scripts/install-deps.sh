@@ -14,6 +14,7 @@ packages=(
   ffmpeg
   fonts-dejavu-core fonts-noto-core fonts-noto-cjk
   xauth xvfb openbox xdotool
+  dbus at-spi2-core python3-pyatspi
 )
 if [ "${1:-}" = "--fuzz" ]; then
   packages=(clang libclang-rt-dev llvm)

@@ -19,13 +19,17 @@
 #include "LMThemeColors.h"
 #include "ui_LMFormatSelectionWndCtrl.h"
 
+#include <QAccessibleWidget>
+#include <QAction>
 #include <QApplication>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QScreen>
+#include <QToolButton>
 
+#include <mutex>
 #include <utility>
 
 using Lumeran::ILMArtworkImageGroupAdapter;
@@ -70,6 +74,15 @@ QRect VisibleFrameFor(const QWidget* window, const QRectF& anchor) {
     return screen ? screen->availableGeometry() : QRect();
 }
 
+// A screen reader announces the popup as a dialog with its title; Qt would
+// show a frameless tool window as a nameless filler.
+QAccessibleInterface* MakeWindowInterface(const QString& className, QObject* object) {
+    (void)className;
+    if (auto* window = qobject_cast<LMFormatSelectionWndCtrl*>(object))
+        return new QAccessibleWidget(window, QAccessible::Dialog);
+    return nullptr;
+}
+
 } // namespace
 
 namespace {
@@ -88,6 +101,8 @@ LMFormatSelectionWndCtrl* LMFormatSelectionWndCtrl::shared() {
 LMFormatSelectionWndCtrl::LMFormatSelectionWndCtrl()
     : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
       d(std::make_unique<LMFormatSelectionWndCtrlPrivate>(this)) {
+    static std::once_flag accessible;
+    std::call_once(accessible, [] { QAccessible::installFactory(MakeWindowInterface); });
     d->ui->setupUi(this);
     setObjectName(QStringLiteral("LMFormatSelectionWndCtrl"));
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -304,6 +319,19 @@ void LMFormatSelectionWndCtrlPrivate::retranslate() {
                     mgr->stringForKey(QStringLiteral("Choose the first match (%1)"))
                         .arg(LMKeyText::names({QKeyCombination(Qt::Key_Return)}))}
             .join(QLatin1Char('\n')));
+    // The field's own buttons: the search mark before the text, and the clear
+    // button, which Qt leaves without a name.
+    for (QToolButton* button : ui->searchField->findChildren<QToolButton*>()) {
+        QAction* action = button->defaultAction();
+        const bool clears =
+            action && action->objectName() == QLatin1String("_q_qlineeditclearaction");
+        const QString name = clears ? mgr->stringForKey(QStringLiteral("Clear search")) : search;
+        button->setAccessibleName(name);
+        button->setAccessibleDescription(
+            clears ? mgr->stringForKey(QStringLiteral("Show all presets again")) : QString());
+        if (clears)
+            button->setToolTip(name);
+    }
     q->setWindowTitle(mgr->stringForKey(QStringLiteral("Choose a format")));
     q->setAccessibleName(q->windowTitle());
     if (ui->loadPrgInd)

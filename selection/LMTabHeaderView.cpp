@@ -3,6 +3,7 @@
 
 #include "LMFormatInternationalizationMgr.h"
 #include "LMKeyText.h"
+#include "LMTabAccessible.h"
 #include "LMTabButton.h"
 #include "LMTabHeaderViewDelegate.h"
 #include "LMThemeColors.h"
@@ -19,6 +20,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <utility>
 
 namespace {
 
@@ -91,6 +93,8 @@ struct LMTabHeaderView::Private {
 
 LMTabHeaderView::LMTabHeaderView(QWidget* parent)
     : QWidget(parent), d(std::make_unique<Private>()) {
+    // Screen readers see page tabs in a list of page tabs.
+    LMTabAccessible::installFactory();
     d->viewport = new QWidget(this);
     // A wheel turned over a tab scrolls the strip: the tabs themselves take no
     // wheel events, and events that Qt did not get from the window system are
@@ -185,6 +189,10 @@ void LMTabHeaderView::setIndexOfSelected(std::size_t index) {
     ensureTabVisible(index);
 }
 
+QWidget* LMTabHeaderView::tabArea() const {
+    return d->viewport;
+}
+
 QRect LMTabHeaderView::frameOfTabButton(std::size_t index) const {
     int width = static_cast<int>(defWidth);
     // The sixth tab is widened for French only: its titles are the longest
@@ -206,6 +214,18 @@ void LMTabHeaderView::arrangeTabButtons() {
         LMTabButton* button = asTab(d->tabButtons[i]);
         button->setGeometry(frameOfTabButton(static_cast<std::size_t>(i)));
         button->setTag(static_cast<std::size_t>(i));
+    }
+    // The tab area's children in the tabs' order: assistive technology counts
+    // the tabs as its children ("tab 2 of 6"), and a tab inserted before others
+    // was made after them.
+    QList<QPushButton*> stacked;
+    for (QObject* child : d->viewport->children()) {
+        if (auto* tab = qobject_cast<LMTabButton*>(child))
+            stacked.append(tab);
+    }
+    if (stacked != d->tabButtons) {
+        for (QPushButton* button : std::as_const(d->tabButtons))
+            button->raise();
     }
 }
 
@@ -279,6 +299,7 @@ void LMTabHeaderView::updateScrolling() {
     d->scrollLeft->setAccessibleName(left);
     d->scrollRight->setToolTip(right);
     d->scrollRight->setAccessibleName(right);
+    d->viewport->setAccessibleName(lizationMgr()->stringForKey(QStringLiteral("Categories")));
     // A change of size or of the tabs may leave the offset past the end.
     scrollTo(d->scrollOffset);
 }

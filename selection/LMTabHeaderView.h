@@ -76,6 +76,9 @@ public:
     // nothing.
     void selectTabByUser(std::size_t index);
 
+    // The area the tabs sit in, which clips them as the strip scrolls.
+    QWidget* tabArea() const;
+
     // Where tab index stands in the strip's coordinates, scrolled.
     QRect frameOfTabButton(std::size_t index) const;
 

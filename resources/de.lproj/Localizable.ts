@@ -371,5 +371,37 @@
         <source>Scroll tabs right</source>
         <translation>Tabs nach rechts blättern</translation>
     </message>
+    <message>
+        <source>Choose</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Kategorien</translation>
+    </message>
+    <message>
+        <source>Recent presets</source>
+        <translation>Zuletzt gewählte Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>Formats of %1</source>
+        <translation>Formate unter %1</translation>
+    </message>
+    <message>
+        <source>Presets of %1</source>
+        <translation>Voreinstellungen für %1</translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation>Suche leeren</translation>
+    </message>
+    <message>
+        <source>Show all presets again</source>
+        <translation>Wieder alle Voreinstellungen zeigen</translation>
+    </message>
 </context>
 </TS>

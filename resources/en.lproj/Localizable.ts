@@ -371,5 +371,37 @@
         <source>Scroll tabs right</source>
         <translation>Scroll tabs right</translation>
     </message>
+    <message>
+        <source>Choose</source>
+        <translation>Choose</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Categories</translation>
+    </message>
+    <message>
+        <source>Recent presets</source>
+        <translation>Recent presets</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Presets</translation>
+    </message>
+    <message>
+        <source>Formats of %1</source>
+        <translation>Formats of %1</translation>
+    </message>
+    <message>
+        <source>Presets of %1</source>
+        <translation>Presets of %1</translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation>Clear search</translation>
+    </message>
+    <message>
+        <source>Show all presets again</source>
+        <translation>Show all presets again</translation>
+    </message>
 </context>
 </TS>

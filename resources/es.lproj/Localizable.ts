@@ -371,5 +371,37 @@
         <source>Scroll tabs right</source>
         <translation>Desplazar pestañas a la derecha</translation>
     </message>
+    <message>
+        <source>Choose</source>
+        <translation>Elegir</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Categorías</translation>
+    </message>
+    <message>
+        <source>Recent presets</source>
+        <translation>Ajustes recientes</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Formats of %1</source>
+        <translation>Formatos de %1</translation>
+    </message>
+    <message>
+        <source>Presets of %1</source>
+        <translation>Ajustes de %1</translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation>Borrar búsqueda</translation>
+    </message>
+    <message>
+        <source>Show all presets again</source>
+        <translation>Volver a mostrar todos los ajustes</translation>
+    </message>
 </context>
 </TS>

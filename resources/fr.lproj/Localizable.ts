@@ -371,5 +371,37 @@
         <source>Scroll tabs right</source>
         <translation>Faire défiler les onglets vers la droite</translation>
     </message>
+    <message>
+        <source>Choose</source>
+        <translation>Choisir</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Catégories</translation>
+    </message>
+    <message>
+        <source>Recent presets</source>
+        <translation>Préréglages récents</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Préréglages</translation>
+    </message>
+    <message>
+        <source>Formats of %1</source>
+        <translation>Formats de %1</translation>
+    </message>
+    <message>
+        <source>Presets of %1</source>
+        <translation>Préréglages de %1</translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation>Effacer la recherche</translation>
+    </message>
+    <message>
+        <source>Show all presets again</source>
+        <translation>Afficher de nouveau tous les préréglages</translation>
+    </message>
 </context>
 </TS>

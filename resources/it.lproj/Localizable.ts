@@ -371,5 +371,37 @@
         <source>Scroll tabs right</source>
         <translation>Scorri le schede a destra</translation>
     </message>
+    <message>
+        <source>Choose</source>
+        <translation>Scegli</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Categorie</translation>
+    </message>
+    <message>
+        <source>Recent presets</source>
+        <translation>Preimpostazioni recenti</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Preimpostazioni</translation>
+    </message>
+    <message>
+        <source>Formats of %1</source>
+        <translation>Formati di %1</translation>
+    </message>
+    <message>
+        <source>Presets of %1</source>
+        <translation>Preimpostazioni di %1</translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation>Cancella ricerca</translation>
+    </message>
+    <message>
+        <source>Show all presets again</source>
+        <translation>Mostra di nuovo tutte le preimpostazioni</translation>
+    </message>
 </context>
 </TS>

@@ -371,5 +371,37 @@
         <source>Scroll tabs right</source>
         <translation>タブを右へスクロール</translation>
     </message>
+    <message>
+        <source>Choose</source>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>カテゴリ</translation>
+    </message>
+    <message>
+        <source>Recent presets</source>
+        <translation>最近のプリセット</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>プリセット</translation>
+    </message>
+    <message>
+        <source>Formats of %1</source>
+        <translation>%1 の形式</translation>
+    </message>
+    <message>
+        <source>Presets of %1</source>
+        <translation>%1 のプリセット</translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation>検索をクリア</translation>
+    </message>
+    <message>
+        <source>Show all presets again</source>
+        <translation>すべてのプリセットを再表示</translation>
+    </message>
 </context>
 </TS>

@@ -371,5 +371,37 @@
         <source>Scroll tabs right</source>
         <translation>Rolar abas para a direita</translation>
     </message>
+    <message>
+        <source>Choose</source>
+        <translation>Escolher</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Categorias</translation>
+    </message>
+    <message>
+        <source>Recent presets</source>
+        <translation>Predefinições recentes</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Predefinições</translation>
+    </message>
+    <message>
+        <source>Formats of %1</source>
+        <translation>Formatos de %1</translation>
+    </message>
+    <message>
+        <source>Presets of %1</source>
+        <translation>Predefinições de %1</translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation>Limpar pesquisa</translation>
+    </message>
+    <message>
+        <source>Show all presets again</source>
+        <translation>Mostrar de novo todas as predefinições</translation>
+    </message>
 </context>
 </TS>

@@ -371,5 +371,37 @@
         <source>Scroll tabs right</source>
         <translation>向右滚动标签页</translation>
     </message>
+    <message>
+        <source>Choose</source>
+        <translation>选择</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>类别</translation>
+    </message>
+    <message>
+        <source>Recent presets</source>
+        <translation>最近的预设</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>预设</translation>
+    </message>
+    <message>
+        <source>Formats of %1</source>
+        <translation>%1 的格式</translation>
+    </message>
+    <message>
+        <source>Presets of %1</source>
+        <translation>%1 的预设</translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation>清除搜索</translation>
+    </message>
+    <message>
+        <source>Show all presets again</source>
+        <translation>重新显示所有预设</translation>
+    </message>
 </context>
 </TS>

@@ -410,18 +410,6 @@ TEST_F(LMFmtNodeViewCtrlTest, AListOfTenThousandPresetsMakesCellsOnlyForVisibleR
     EXPECT_EQ(formats()->itemAtIndex(5000), nullptr);
 }
 
-namespace {
-
-// The ctrl shown and active, so that the focus it is given is real.
-bool ShowActive(LMFmtNodeViewCtrl* ctrl) {
-    if (!ShowAndWait(ctrl))
-        return false;
-    ctrl->activateWindow();
-    return QTest::qWaitForWindowActive(ctrl);
-}
-
-} // namespace
-
 TEST_F(LMFmtNodeViewCtrlTest, F2CtrlEAndTheMenuKeyAskToEditTheCurrentPresetOfACategory) {
     const auto category = MakeCategory();
     ctrl->loadFormatNode(category);

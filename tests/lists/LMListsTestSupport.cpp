@@ -5,6 +5,7 @@
 #include "LMFormatCollectionModel.h"
 #include "LMFormatCollectionView.h"
 #include "LMFormatDataViewItem.h"
+#include "LMUiTestSupport.h"
 
 #include <QAbstractItemView>
 #include <QCursor>
@@ -124,6 +125,13 @@ void HoverRow(LMFormatCollectionView* view, int row) {
         QTest::mouseMove(view->viewport(), centre + step);
     }
     QTest::qWait(100);
+}
+
+bool ShowActive(QWidget* widget) {
+    if (!ShowAndWait(widget))
+        return false;
+    widget->activateWindow();
+    return QTest::qWaitForWindowActive(widget);
 }
 
 void ClickRow(LMFormatCollectionView* view, int row) {

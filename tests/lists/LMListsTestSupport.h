@@ -86,6 +86,8 @@ QPoint ButtonCenter(const LMFormatCollectionView* view, int row,
                     LMFormatDataView::ActionButton button);
 void HoverRow(LMFormatCollectionView* view, int row);
 void ClickRow(LMFormatCollectionView* view, int row);
+// The widget shown and its window active, so that the focus it is given is real.
+bool ShowActive(QWidget* widget);
 // The titles the list's model gives for every row.
 QStringList Titles(const LMFormatCollectionView* view);
 // The cells that rows have now.

@@ -402,19 +402,40 @@ TEST_F(LMTabHeaderViewTest, AKeyWithoutATranslationShowsTheKey) {
               QStringLiteral("Jazz Archive"));
 }
 
-TEST_F(LMTabHeaderViewTest, TabsAreNamedAndCheckedForAssistiveTools) {
+TEST_F(LMTabHeaderViewTest, TabsArePageTabsOfOneListInTheirOrderAndSelectedForAssistiveTools) {
     addTabs({QStringLiteral("Recent"), QStringLiteral("Custom")});
-    strip->setIndexOfSelected(1);
+    // Made last, shown second: assistive tools still count it second.
+    strip->insertTab(QStringLiteral("Video"), QIcon(), 1);
+    strip->setIndexOfSelected(2);
     showStrip();
 
-    QPushButton* custom = strip->tabButtons().at(1);
+    QAccessibleInterface* list = QAccessible::queryAccessibleInterface(strip->tabArea());
+    ASSERT_NE(list, nullptr);
+    EXPECT_EQ(list->role(), QAccessible::PageTabList);
+    EXPECT_EQ(list->text(QAccessible::Name), QStringLiteral("Categories"));
+    ASSERT_EQ(list->childCount(), 3);
+    QStringList names;
+    for (int i = 0; i < list->childCount(); ++i) {
+        EXPECT_EQ(list->child(i)->role(), QAccessible::PageTab);
+        names << list->child(i)->text(QAccessible::Name);
+    }
+    EXPECT_EQ(names, (QStringList{QStringLiteral("Recent"), QStringLiteral("Video"),
+                                  QStringLiteral("Custom")}));
+
+    QPushButton* custom = strip->tabButtons().at(2);
     EXPECT_EQ(custom->accessibleName(), QStringLiteral("Custom"));
     QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(custom);
     ASSERT_NE(accessible, nullptr);
-    EXPECT_EQ(accessible->text(QAccessible::Name), QStringLiteral("Custom"));
-    EXPECT_TRUE(accessible->state().checkable);
-    EXPECT_TRUE(accessible->state().checked);
+    EXPECT_TRUE(accessible->state().selected);
+    EXPECT_FALSE(accessible->state().checkable);
+    EXPECT_FALSE(list->child(0)->state().selected);
     EXPECT_TRUE(custom->focusPolicy() & Qt::TabFocus);
+
+    // Pressing a tab selects it as a click does.
+    list->child(1)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(strip->indexOfSelected(), 1u);
+    EXPECT_TRUE(list->child(1)->state().selected);
+    EXPECT_FALSE(accessible->state().selected);
 }
 
 TEST_F(LMTabHeaderViewTest, SpaceOnAFocusedTabSelectsIt) {
