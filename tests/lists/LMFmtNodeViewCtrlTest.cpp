@@ -21,29 +21,13 @@ using namespace Lumeran::TestSupport;
 
 namespace {
 
-class LMFmtNodeViewCtrlTest : public UiTest {
+class LMFmtNodeViewCtrlTest : public NodeViewCtrlTest {
 protected:
-    void SetUp() override {
-        UiTest::SetUp();
-        ctrl.reset(LMFmtNodeViewCtrl::fmtNodeViewCtrl());
-        ctrl->setDelegate(&delegate);
-    }
-    void TearDown() override {
-        ctrl.reset();
-        UiTest::TearDown();
-    }
-
-    LMFormatCollectionView* nodes() const { return ctrl->nodeListView(); }
-    LMFormatCollectionView* formats() const { return ctrl->fmtListView(); }
-
     // A custom tab over the shared data source's custom list.
     void LoadCustomTab() {
         ctrl->setRemovable(true);
         ctrl->loadFormatNode(FillCustomList());
     }
-
-    RecordingDataDelegate delegate;
-    std::unique_ptr<LMFmtNodeViewCtrl> ctrl;
 };
 
 QStringList CustomGroupTitles() {

@@ -19,24 +19,7 @@ using namespace Lumeran::TestSupport;
 
 namespace {
 
-class LMFormatListAccessibleTest : public UiTest {
-protected:
-    void SetUp() override {
-        UiTest::SetUp();
-        ctrl.reset(LMFmtNodeViewCtrl::fmtNodeViewCtrl());
-        ctrl->setDelegate(&delegate);
-    }
-    void TearDown() override {
-        ctrl.reset();
-        UiTest::TearDown();
-    }
-
-    LMFormatCollectionView* nodes() const { return ctrl->nodeListView(); }
-    LMFormatCollectionView* formats() const { return ctrl->fmtListView(); }
-
-    RecordingDataDelegate delegate;
-    std::unique_ptr<LMFmtNodeViewCtrl> ctrl;
-};
+class LMFormatListAccessibleTest : public NodeViewCtrlTest {};
 
 QAccessibleInterface* Accessible(QWidget* widget) {
     return QAccessible::queryAccessibleInterface(widget);

@@ -3,9 +3,11 @@
 
 #include "ILMFormatNode.h"
 #include "ILMFormatPreset.h"
+#include "LMFmtNodeViewCtrl.h"
 #include "LMFormatDataDelegate.h"
 #include "LMFormatDataView.h"
 #include "LMFormatDataViewDelegate.h"
+#include "LMUiTestSupport.h"
 
 #include <QImage>
 #include <QPoint>
@@ -96,5 +98,26 @@ int LiveItemCount(const LMFormatCollectionView* view);
 QImage RenderCell(LMFormatDataView* view);
 // The colour of the hover and selection background.
 QColor Highlight();
+
+// A category's two lists (its format nodes, the presets of the selected one)
+// in a window of their own, telling a recording delegate.
+class NodeViewCtrlTest : public UiTest {
+protected:
+    void SetUp() override {
+        UiTest::SetUp();
+        ctrl.reset(LMFmtNodeViewCtrl::fmtNodeViewCtrl());
+        ctrl->setDelegate(&delegate);
+    }
+    void TearDown() override {
+        ctrl.reset();
+        UiTest::TearDown();
+    }
+
+    LMFormatCollectionView* nodes() const { return ctrl->nodeListView(); }
+    LMFormatCollectionView* formats() const { return ctrl->fmtListView(); }
+
+    RecordingDataDelegate delegate;
+    std::unique_ptr<LMFmtNodeViewCtrl> ctrl;
+};
 
 } // namespace Lumeran::TestSupport
