@@ -11,6 +11,7 @@
 
 #include <QActionGroup>
 #include <QApplication>
+#include <QEvent>
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QFormLayout>
@@ -18,6 +19,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QPalette>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -88,7 +90,7 @@ QFormLayout* LMDemoHostWindow::buildForm() {
     auto* formatRow = new QHBoxLayout();
     m_formatButton->setIconSize(QSize(32, 32));
     m_formatButton->setMinimumSize(300, 46);
-    m_formatButton->setStyleSheet(QStringLiteral("text-align: left; padding: 4px 10px;"));
+    styleFormatButton();
     m_formatButton->setToolTip(QStringLiteral("Choose the output format"));
     connect(m_formatButton, &QPushButton::clicked, this, &LMDemoHostWindow::popupFormats);
     connect(m_editButton, &QPushButton::clicked, this, &LMDemoHostWindow::editFormat);
@@ -244,4 +246,24 @@ void LMDemoHostWindow::nameApplication() {
     QApplication::setOrganizationName(QStringLiteral("Lumeran"));
     QApplication::setApplicationName(QStringLiteral("LMMediaFormatPopup Demo"));
     QApplication::setApplicationDisplayName(QStringLiteral("Format Demo"));
+}
+
+void LMDemoHostWindow::styleFormatButton() {
+    // A style sheet that sets the padding also draws the button's panel, which
+    // would otherwise stay light under a dark palette: it takes the palette's
+    // colours, read again whenever the palette changes.
+    const QPalette& colours = palette();
+    m_formatButton->setStyleSheet(
+        QStringLiteral("QPushButton { text-align: left; padding: 4px 10px; color: %1;"
+                       " background-color: %2; border: 1px solid %3; border-radius: 3px; }"
+                       " QPushButton:hover { background-color: %4; }"
+                       " QPushButton:pressed { background-color: %3; }")
+            .arg(colours.color(QPalette::ButtonText).name(), colours.color(QPalette::Button).name(),
+                 colours.color(QPalette::Mid).name(), colours.color(QPalette::Midlight).name()));
+}
+
+void LMDemoHostWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && m_formatButton)
+        styleFormatButton();
 }

@@ -49,8 +49,13 @@ public:
     void showChoice(std::shared_ptr<const Lumeran::ILMFormatPreset> preset,
                     std::shared_ptr<const Lumeran::ILMFormatNode> node);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     QFormLayout* buildForm();
+    // The format button's look: left-aligned, in the colours of the palette.
+    void styleFormatButton();
     QHBoxLayout* buildConvertRow();
     void connectConverter();
     void chooseSource();

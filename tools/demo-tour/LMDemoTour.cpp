@@ -24,6 +24,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -198,7 +199,24 @@ bool LMDemoTour::writeTwelveCategories(const QString& path) const {
     }
     root.insert(QStringLiteral("children"), categories);
     QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(root).toJson()) > 0;
+    if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(root).toJson()) <= 0)
+        return false;
+    // The artwork goes beside it, as a catalogue's does: images are read only
+    // from the folder of their configuration.
+    const QFileInfo catalogue(QString::fromStdString(m_cataloguePath));
+    const QDir from(catalogue.dir().filePath(QStringLiteral("artwork")));
+    const QDir to(QFileInfo(path).dir().filePath(QStringLiteral("artwork")));
+    if (!QDir().mkpath(to.path()) ||
+        !QFile::copy(
+            catalogue.dir().filePath(catalogue.completeBaseName() + QStringLiteral(".icfg")),
+            QFileInfo(path).dir().filePath(QFileInfo(path).completeBaseName() +
+                                           QStringLiteral(".icfg"))))
+        return false;
+    for (const QString& image : from.entryList(QDir::Files)) {
+        if (!QFile::copy(from.filePath(image), to.filePath(image)))
+            return false;
+    }
+    return true;
 }
 
 void LMDemoTour::seedCustomPresets() {
