@@ -119,6 +119,8 @@ void LMFmtPresetDataSource::AsyncLoadExternalDataSource(const std::string& path,
     if (m_loader.joinable())
         m_loader.detach();
     m_load = load;
+    // The tree of an earlier load gives way: until this load ends there is none.
+    m_externalRoot.reset();
     // Everything below works on its own copy of the future: a completion may
     // collect the tree, and with it m_pending, before this call returns.
     const auto pending = std::async(std::launch::async, [path, load] {

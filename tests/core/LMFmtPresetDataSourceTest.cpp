@@ -12,6 +12,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -170,6 +173,39 @@ TEST_F(LMFmtPresetDataSourceTest, ASecondLoadStartedBeforeTheFirstEndsLetsBothCo
     EXPECT_TRUE(secondDone.WaitFor(std::chrono::seconds(30)));
     source->WaitForLoadingComplete();
     EXPECT_TRUE(source->GetExternalFormatPresets());
+}
+
+TEST_F(LMFmtPresetDataSourceTest, ALoadAfterAnEarlierOneWasCollectedGivesItsOwnTree) {
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+    // The default catalogue, and one with its first category alone.
+    const QString whole = dir.filePath(QStringLiteral("whole.json"));
+    const QString one = dir.filePath(QStringLiteral("one.json"));
+    QJsonObject root = QJsonDocument::fromJson(DefaultCatalogueText()).object();
+    ASSERT_GT(root.value(QStringLiteral("children")).toArray().size(), 1);
+    QFile wholeFile(whole);
+    ASSERT_TRUE(wholeFile.open(QIODevice::WriteOnly) &&
+                wholeFile.write(DefaultCatalogueText()) > 0);
+    wholeFile.close();
+    root.insert(QStringLiteral("children"),
+                QJsonArray{root.value(QStringLiteral("children")).toArray().first()});
+    QFile oneFile(one);
+    ASSERT_TRUE(oneFile.open(QIODevice::WriteOnly) &&
+                oneFile.write(QJsonDocument(root).toJson()) > 0);
+    oneFile.close();
+
+    const auto source = MakeSource();
+    source->AsyncLoadExternalDataSource(whole.toStdString(), {});
+    source->WaitForLoadingComplete();
+    const auto first = source->GetExternalFormatPresets();
+    ASSERT_TRUE(first);
+    EXPECT_GT(first->ChildCount(), 1);
+
+    source->AsyncLoadExternalDataSource(one.toStdString(), {});
+    source->WaitForLoadingComplete();
+    const auto second = source->GetExternalFormatPresets();
+    ASSERT_TRUE(second);
+    EXPECT_EQ(second->ChildCount(), 1);
 }
 
 TEST_F(LMFmtPresetDataSourceTest, GetCurrentPresetIsTheNewestRecentEntryOnceThereIsOne) {
