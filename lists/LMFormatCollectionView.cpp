@@ -13,6 +13,7 @@
 #include "LMKeyText.h"
 #include "LMThemeColors.h"
 
+#include <QAccessible>
 #include <QCursor>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -675,6 +676,26 @@ void LMFormatCollectionView::paintEvent(QPaintEvent* event) {
     painter.setPen(LMThemeColors(palette()).rowSecondaryText(palette().color(QPalette::Base)));
     painter.drawText(viewport()->rect().adjusted(12, 12, -12, -12),
                      Qt::AlignCenter | Qt::TextWordWrap, d->emptyText);
+}
+
+void LMFormatCollectionView::focusInEvent(QFocusEvent* event) {
+    QListView::focusInEvent(event);
+    // Qt tells assistive technology of the current row here, and of the list
+    // itself only afterwards, which would leave a screen reader on the list
+    // rather than on the row the keys act on: the row is told of once more
+    // when the focus has settled.
+    if (QAccessible::isActive())
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                const QModelIndex current = currentIndex();
+                if (!hasFocus() || !current.isValid())
+                    return;
+                QAccessibleEvent focus(this, QAccessible::Focus);
+                focus.setChild(current.row());
+                QAccessible::updateAccessibility(&focus);
+            },
+            Qt::QueuedConnection);
 }
 
 void LMFormatCollectionView::showEvent(QShowEvent* event) {

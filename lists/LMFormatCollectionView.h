@@ -119,6 +119,7 @@ protected:
     void keyboardSearch(const QString& search) override;
     bool viewportEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;

@@ -21,6 +21,7 @@ import time
 import unittest
 
 import pyatspi
+from gi.repository import GLib
 
 HOST = None
 TAB_TITLES = ["Recent", "Video", "Audio", "Device", "Web Video", "Custom"]
@@ -80,6 +81,34 @@ def do_action(accessible, name):
     if name not in names:
         raise AssertionError(f"{accessible.name!r} offers {names}, not {name!r}")
     actions.doAction(names.index(name))
+
+
+class FocusWatcher:
+    """What a screen reader hears of the focus: each object that gains it."""
+
+    def __init__(self):
+        self.gained = []
+        pyatspi.Registry.registerEventListener(self._note, "object:state-changed:focused")
+
+    def _note(self, event):
+        if event.detail1:
+            self.gained.append((event.source.getRole(), event.source.name))
+
+    def pump(self, seconds=0.5):
+        context = GLib.MainContext.default()
+        deadline = time.monotonic() + seconds
+        while time.monotonic() < deadline:
+            while context.pending():
+                context.iteration(False)
+            time.sleep(0.02)
+
+    def stop(self):
+        pyatspi.Registry.deregisterEventListener(self._note, "object:state-changed:focused")
+
+
+def press_keys(*keys):
+    """Keys as the user types them: through the X server to the active window."""
+    subprocess.run(["xdotool", "key", *keys], check=True)
 
 
 class Host:
@@ -274,6 +303,19 @@ class PopupOverAtSpiTest(unittest.TestCase):
         self.assertIn("HD 1080p", title)
         # Cancelled, the popup comes back as it was.
         self.host.popup()
+
+    def test_moving_through_a_list_by_keys_leaves_the_screen_reader_on_each_row(self):
+        select_tab(self.popup, "Video")
+        watcher = FocusWatcher()
+        self.addCleanup(watcher.stop)
+        watcher.pump()
+        # From the search field, where the popup opens, into the presets.
+        press_keys("Down")
+        watcher.pump()
+        self.assertEqual(watcher.gained[-1:], [(pyatspi.ROLE_LIST_ITEM, "High Quality")])
+        press_keys("Down")
+        watcher.pump()
+        self.assertEqual(watcher.gained[-1:], [(pyatspi.ROLE_LIST_ITEM, "Medium Quality")])
 
     def test_remove_on_a_custom_preset_removes_it_from_the_list_and_the_store(self):
         select_tab(self.popup, "Custom")
