@@ -37,6 +37,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace Lumeran;
@@ -212,11 +213,10 @@ bool LMDemoTour::writeTwelveCategories(const QString& path) const {
             QFileInfo(path).dir().filePath(QFileInfo(path).completeBaseName() +
                                            QStringLiteral(".icfg"))))
         return false;
-    for (const QString& image : from.entryList(QDir::Files)) {
-        if (!QFile::copy(from.filePath(image), to.filePath(image)))
-            return false;
-    }
-    return true;
+    const QStringList images = from.entryList(QDir::Files);
+    return std::ranges::all_of(images, [&](const QString& image) {
+        return QFile::copy(from.filePath(image), to.filePath(image));
+    });
 }
 
 void LMDemoTour::seedCustomPresets() {
