@@ -19,7 +19,7 @@ using LMCliNeeds::Preset;
 namespace Lists = LMListCommands;
 namespace Catalogues = LMCatalogueCommands;
 
-const std::array<LMCliCommand, 13> kCommands{{
+const std::array<LMCliCommand, 14> kCommands{{
     {"validate", "[FILE]",
      "Count the categories, formats and presets of a catalogue (the default one without FILE); "
      "with --ffmpeg, list the presets that FFmpeg cannot run and why.",
@@ -31,6 +31,9 @@ const std::array<LMCliCommand, 13> kCommands{{
      "Encode a generated clip with every preset (of the default catalogue without one), probe "
      "it with ffprobe and print OK or what differs.",
      CatalogueOrDefault, LMFFmpegCommands::Verify, "", true},
+    {"estimate", "CATALOGUE \"CATEGORY/FORMAT/PRESET\" DURATION",
+     "Print the expected output size of a preset for a duration (seconds, M:SS or H:MM:SS).",
+     Preset, LMFFmpegCommands::Estimate},
     {"search", "CATALOGUE TEXT", "Print what the popup's search finds for a text.", Catalogue,
      Catalogues::Search},
     {"recent list", "", "Print the recent list, newest first.", Nothing, Lists::RecentList},

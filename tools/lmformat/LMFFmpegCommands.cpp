@@ -5,6 +5,7 @@
 #include "LMCliOutput.h"
 #include "LMFFmpegCapabilities.h"
 #include "LMPresetVerifier.h"
+#include "LMSizeEstimate.h"
 
 #include <QTemporaryDir>
 
@@ -50,6 +51,22 @@ bool Ask(const LMCliCall& call, LMFFmpegCapabilities& capabilities) {
                       (call.ffmpegGiven ? call.ffmpeg.toStdString() : std::string("ffmpeg")) +
                       " can run: " + capabilities.Problem());
     return false;
+}
+
+// "600", "10:00" or "1:30:00" in seconds; negative when unreadable.
+double Seconds(const QString& text) {
+    double seconds = 0;
+    const QStringList parts = text.split(QLatin1Char(':'));
+    if (parts.size() > 3)
+        return -1;
+    for (const QString& part : parts) {
+        bool ok = false;
+        const double value = part.toDouble(&ok);
+        if (!ok || value < 0)
+            return -1;
+        seconds = seconds * 60 + value;
+    }
+    return seconds;
 }
 
 } // namespace
@@ -103,6 +120,27 @@ int Verify(const LMCliCall& call) {
     Print(std::to_string(presets.size() - static_cast<std::size_t>(failed)) + " of " +
           std::to_string(presets.size()) + " presets verified with " + capabilities.Binary());
     return failed == 0 ? 0 : 1;
+}
+
+int Estimate(const LMCliCall& call) {
+    const double seconds = Seconds(call.operands.at(2));
+    if (seconds < 0)
+        return LMCliOutput::Fail("not a duration: \"" + call.Operand(2) +
+                                 "\" (seconds, M:SS or H:MM:SS)");
+    const auto estimate = LMSizeEstimate::For(call.target.preset, seconds);
+    if (!estimate.IsKnown())
+        return LMCliOutput::Fail(call.Operand(1) +
+                                 ": the size cannot be estimated (an automatic codec)");
+    std::string line = estimate.Describe() + " (" + std::to_string(estimate.Low());
+    if (!estimate.IsExact())
+        line += "-" + std::to_string(estimate.High());
+    line += estimate.IsExact() ? " bytes; fixed by bitrate and sample format)"
+                               : " bytes; quality-based, measured on reference clips)";
+    Print(line);
+    if (estimate.UsesAssumedSource())
+        Print("for a source of 1920x1080 at 30 fps with 48 kHz stereo sound where the preset "
+              "keeps the source's");
+    return 0;
 }
 
 } // namespace LMFFmpegCommands

@@ -14,4 +14,9 @@ int ListUnavailable(const LMCliCall& call);
 // named), probes the file and prints OK or what differs; 1 if any fails.
 int Verify(const LMCliCall& call);
 
+// The expected output size of a preset for a duration (seconds, M:SS or
+// H:MM:SS): one figure for bitrate and PCM settings, a range for quality-based
+// ones.
+int Estimate(const LMCliCall& call);
+
 } // namespace LMFFmpegCommands
