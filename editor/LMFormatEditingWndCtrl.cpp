@@ -11,6 +11,7 @@
 #include "LMNewPresetPrompt.h"
 #include "LMNewPresetView.h"
 #include "LMSingleton.h"
+#include "LMSizeEstimate.h"
 #include "ui_LMFormatEditingWndCtrl.h"
 
 #include <QApplication>
@@ -179,8 +180,10 @@ std::array<QPushButton*, 3> LMFormatEditingWndCtrlPrivate::buttons() const {
 void LMFormatEditingWndCtrlPrivate::connectControls() {
     // activated() comes from the user only, so filling a box never acts on the preset.
     const auto onPick = [this](QComboBox* box, void (LMFormatEditingWndCtrlPrivate::*action)(int)) {
-        QObject::connect(box, &QComboBox::activated, q,
-                         [this, action](int index) { (this->*action)(index); });
+        QObject::connect(box, &QComboBox::activated, q, [this, action](int index) {
+            (this->*action)(index);
+            updateSizeEstimate();
+        });
     };
     onPick(ui->cmbVEncoder, &LMFormatEditingWndCtrlPrivate::VideoEncoderChangeAction);
     onPick(ui->cmbResolution, &LMFormatEditingWndCtrlPrivate::VideoResolutionChangeAction);
@@ -284,6 +287,7 @@ void LMFormatEditingWndCtrlPrivate::SetupFormatSettings() {
     const bool hasPreset = editingFormat != nullptr;
     for (QPushButton* button : buttons())
         button->setEnabled(hasPreset);
+    updateSizeEstimate();
     if (hasPreset) {
         SetupFormatVideoSettings();
         SetupFormatAudioSettings();
@@ -295,6 +299,26 @@ void LMFormatEditingWndCtrlPrivate::SetupFormatSettings() {
             emptyBox(box);
         }
     }
+}
+
+void LMFormatEditingWndCtrlPrivate::updateSizeEstimate() {
+    QLabel* label = ui->lblSizeEstimate;
+    if (!editingFormat) {
+        label->clear();
+        return;
+    }
+    // Ten minutes: long enough that the figures read as megabytes for most
+    // settings, short enough to scale to a clip in one's head.
+    constexpr double kSeconds = 600;
+    const auto estimate = Lumeran::LMSizeEstimate::For(editingFormat, kSeconds);
+    const auto text = [this](const QString& key) { return q->lizationMgr()->stringForKey(key); };
+    if (!estimate.IsKnown()) {
+        label->setText(text(QStringLiteral("Size not known for an automatic codec")));
+        return;
+    }
+    const QString size = QString::fromStdString(estimate.Size());
+    label->setText(estimate.IsExact() ? text(QStringLiteral("%1 per 10 minutes")).arg(size)
+                                      : text(QStringLiteral("≈ %1 per 10 minutes")).arg(size));
 }
 
 void LMFormatEditingWndCtrlPrivate::SetupFormatVideoSettings() {

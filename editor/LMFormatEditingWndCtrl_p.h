@@ -37,6 +37,9 @@ public:
     // Makes the editor of LMFormatEditingWndCtrl::shared().
     static std::shared_ptr<LMFormatEditingWndCtrl> make();
 
+    // The copy the controls act on, as the boxes show it; empty without a preset.
+    std::shared_ptr<const Lumeran::ILMFormatPreset> editingPreset() const { return editingFormat; }
+
     // "Settings - <node> <preset>", without the node title when the preset
     // title already holds it, and "Settings" alone without a preset.
     QString getWindowTitle() const;
@@ -100,6 +103,9 @@ private:
     void setupCodec(bool audio, int index);
     void changeEncoder(bool audio, int index);
     void describeChangedSettings(Lumeran::ILMFormatPreset& preset) const;
+    // The line under the settings: how big ten minutes of output get with the
+    // editing copy's settings, as they are now.
+    void updateSizeEstimate();
     std::shared_ptr<Lumeran::ILMCodecPreset> currentCodec(bool audio) const;
     StreamBoxes boxes(bool audio) const;
     std::array<QPushButton*, 3> buttons() const;

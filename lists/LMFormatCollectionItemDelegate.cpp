@@ -20,6 +20,10 @@ constexpr int kDefaultHeight = 52;
 // the hover background rather than on it.
 constexpr qreal kFocusRingWidth = 2.0;
 constexpr qreal kFocusRingInset = 3.0;
+// The mark and faintness of a preset the host's FFmpeg cannot run.
+constexpr int kWarningMarkSize = 14;
+constexpr int kWarningMarkGap = 4;
+constexpr qreal kUnavailableOpacity = 0.45;
 
 // The button glyphs are drawn rather than shipped, at each common scale factor,
 // so they stay sharp on every screen.
@@ -118,9 +122,22 @@ void LMFormatCollectionItemDelegate::paint(QPainter* painter, const QStyleOption
     const LMFormatCellLayout layout = LMFormatCellLayout::of(
         option.rect, QFontMetrics(option.font).height(), QFontMetrics(smallFont).height(),
         descriptionVisible, cell->isEditVisible(), cell->isRemoveVisible());
+    // A preset the host's FFmpeg cannot run stays choosable, drawn faint with a
+    // warning mark at the end of its title; the tool tip says why.
+    const bool unavailable =
+        !index.data(LMFormatCollectionModel::UnavailableRole).toString().isEmpty();
+    QRect title = layout.title;
+    if (unavailable) {
+        const int side = qMin(kWarningMarkSize, title.height());
+        const QRect mark(title.right() - side + 1, title.center().y() - side / 2, side, side);
+        paintWarningMark(painter, mark, colors.dark());
+        title.setRight(mark.left() - kWarningMarkGap);
+    }
     painter->save();
+    if (unavailable)
+        painter->setOpacity(kUnavailableOpacity);
     drawImage(painter, layout.image, index.data(Qt::DecorationRole).value<QIcon>());
-    drawText(painter, layout.title, option.font, colors.rowText(behind),
+    drawText(painter, title, option.font, colors.rowText(behind),
              index.data(Qt::DisplayRole).toString());
     if (descriptionVisible)
         drawText(painter, layout.description, smallFont, colors.rowSecondaryText(behind),
@@ -148,6 +165,31 @@ void LMFormatCollectionItemDelegate::paintFocusRing(QPainter* painter,
     painter->setBrush(Qt::NoBrush);
     const qreal inset = kFocusRingInset + kFocusRingWidth / 2.0;
     painter->drawRoundedRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset), 6.0, 6.0);
+    painter->restore();
+}
+
+// A rounded amber triangle with an exclamation mark, legible on the light and
+// the dark bases alike.
+void LMFormatCollectionItemDelegate::paintWarningMark(QPainter* painter, const QRect& rect,
+                                                      bool dark) {
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    const QRectF box = QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    QPainterPath triangle;
+    triangle.moveTo(box.center().x(), box.top());
+    triangle.lineTo(box.right(), box.bottom());
+    triangle.lineTo(box.left(), box.bottom());
+    triangle.closeSubpath();
+    const QColor amber = dark ? QColor(0xf0, 0xb4, 0x29) : QColor(0xc7, 0x7c, 0x02);
+    painter->setPen(QPen(amber, 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->setBrush(amber);
+    painter->drawPath(triangle);
+    painter->setPen(QPen(dark ? QColor(0x20, 0x20, 0x20) : QColor(Qt::white), 1.6, Qt::SolidLine,
+                         Qt::RoundCap));
+    const qreal x = box.center().x();
+    painter->drawLine(QPointF(x, box.top() + box.height() * 0.38),
+                      QPointF(x, box.top() + box.height() * 0.66));
+    painter->drawPoint(QPointF(x, box.top() + box.height() * 0.82));
     painter->restore();
 }
 

@@ -39,6 +39,7 @@ public:
 
 private:
     static void paintFocusRing(QPainter* painter, const QStyleOptionViewItem& option);
+    static void paintWarningMark(QPainter* painter, const QRect& rect, bool dark);
     void paintButton(QPainter* painter, const QStyleOptionViewItem& option, const QRect& rect,
                      const QIcon& icon, bool down) const;
 

@@ -1,11 +1,52 @@
 // SPDX-License-Identifier: MIT
 #include "LMFormatCollectionModel.h"
 
+#include "LMFFmpegAvailability.h"
+#include "LMFormatInternationalizationMgr.h"
+
 #include <optional>
+
+namespace {
+
+QString Localized(const std::string& key) {
+    return LMFormatInternationalizationMgr::sharedObject()->stringForKey(
+        QString::fromStdString(key));
+}
+
+// "This FFmpeg has no libx265 encoder — try MP4 High Quality", in the popup's
+// language; empty when the entry's preset can be run or nobody knows.
+QString UnavailableText(const LMFormatEntry& entry) {
+    auto* availability = LMFFmpegAvailability::shared();
+    if (!availability->isActive())
+        return {};
+    auto preset = entry.preset();
+    if (!preset && entry.recentItem())
+        preset = entry.recentItem()->FormatPreset();
+    if (!preset)
+        return {};
+    const auto found = availability->availability(preset);
+    if (!found.IsMissing())
+        return {};
+    const bool muxer = found.missingKind == "muxer";
+    const QString name = QString::fromStdString(found.missingName);
+    if (!found.alternative)
+        return (muxer ? Localized("This FFmpeg has no %1 muxer")
+                      : Localized("This FFmpeg has no %1 encoder"))
+            .arg(name);
+    QString instead = Localized(found.alternative->Title());
+    if (found.alternativeNode)
+        instead = Localized(found.alternativeNode->Title()) + QLatin1Char(' ') + instead;
+    return (muxer ? Localized("This FFmpeg has no %1 muxer — try %2")
+                  : Localized("This FFmpeg has no %1 encoder — try %2"))
+        .arg(name, instead);
+}
+
+} // namespace
 
 struct LMFormatCollectionModel::Row {
     explicit Row(LMFormatEntry source)
-        : entry(std::move(source)), title(entry.title()), description(entry.description()) {}
+        : entry(std::move(source)), title(entry.title()), description(entry.description()),
+          unavailable(UnavailableText(entry)) {}
 
     // The image is worked out only when a row is drawn or asked for it.
     const QIcon& icon() const {
@@ -17,12 +58,16 @@ struct LMFormatCollectionModel::Row {
     LMFormatEntry entry;
     QString title;
     QString description;
+    QString unavailable;
     mutable std::optional<QIcon> image;
 };
 
 LMFormatCollectionModel::LMFormatCollectionModel(CountProvider count, EntryProvider entry,
                                                  QObject* parent)
-    : QAbstractListModel(parent), m_count(std::move(count)), m_entry(std::move(entry)) {}
+    : QAbstractListModel(parent), m_count(std::move(count)), m_entry(std::move(entry)) {
+    connect(LMFFmpegAvailability::shared(), &LMFFmpegAvailability::availabilityChanged, this,
+            &LMFormatCollectionModel::refreshAll);
+}
 
 LMFormatCollectionModel::~LMFormatCollectionModel() = default;
 
@@ -60,6 +105,7 @@ QVariant LMFormatCollectionModel::data(const QModelIndex& index, int role) const
     case Qt::AccessibleDescriptionRole:
     case DescriptionRole:
     case VisibleDescriptionRole:
+    case UnavailableRole:
         break;
     default:
         return {};
@@ -71,6 +117,8 @@ QVariant LMFormatCollectionModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
         return row->title;
     case Qt::ToolTipRole:
+        if (!row->unavailable.isEmpty())
+            return row->unavailable;
         return row->description.isEmpty() ? QVariant() : QVariant(row->description);
     case Qt::DecorationRole:
         return row->icon();
@@ -78,8 +126,11 @@ QVariant LMFormatCollectionModel::data(const QModelIndex& index, int role) const
         return row->description.isEmpty() ? row->title
                                           : row->title + QStringLiteral(", ") + row->description;
     case Qt::AccessibleDescriptionRole:
+        return row->unavailable.isEmpty() ? row->description : row->unavailable;
     case DescriptionRole:
         return row->description;
+    case UnavailableRole:
+        return row->unavailable;
     case VisibleDescriptionRole:
         return row->entry.visibleDescription();
     default:

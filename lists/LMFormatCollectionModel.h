@@ -14,7 +14,8 @@
 // description and image, so a list of ten thousand entries works out only the
 // rows that are shown or read. The count is kept between changes, because a
 // controller changes its data first and tells the list afterwards, as a
-// collection view's data source does.
+// collection view's data source does. When the host's FFmpeg answers which
+// presets it can run (LMFFmpegAvailability), every row is read again.
 class LMFormatCollectionModel : public QAbstractListModel {
     Q_OBJECT
 
@@ -24,6 +25,10 @@ public:
         DescriptionRole = Qt::UserRole + 1,
         // bool: the row shows its description under the title.
         VisibleDescriptionRole,
+        // Why the host's FFmpeg cannot run the row's preset and what to pick
+        // instead (also the row's tool tip and accessible description); empty
+        // when it can, when it is not known, or when the host named no FFmpeg.
+        UnavailableRole,
     };
 
     using CountProvider = std::function<int()>;

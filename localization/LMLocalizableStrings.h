@@ -80,7 +80,7 @@ public:
     // Keys that are looked up but not bound: the titles and descriptions of the
     // default catalogue and of the lists the data source makes, the option names
     // of the preset editor, and the words of the popup and the editor.
-    static constexpr std::array<const char*, 51> otherKeys{
+    static constexpr std::array<const char*, 58> otherKeys{
         // Titles and descriptions of the default catalogue.
         QT_TRANSLATE_NOOP("Localizable", "Smartphone"),
         QT_TRANSLATE_NOOP("Localizable", "Tablet"),
@@ -139,6 +139,16 @@ public:
         QT_TRANSLATE_NOOP("Localizable", "Presets of %1"),
         QT_TRANSLATE_NOOP("Localizable", "Clear search"),
         QT_TRANSLATE_NOOP("Localizable", "Show all presets again"),
+        // Presets the host's FFmpeg cannot run (%1: FFmpeg's name of what it
+        // lacks, "libx265"; %2: the format and preset to pick instead).
+        QT_TRANSLATE_NOOP("Localizable", "This FFmpeg has no %1 encoder — try %2"),
+        QT_TRANSLATE_NOOP("Localizable", "This FFmpeg has no %1 muxer — try %2"),
+        QT_TRANSLATE_NOOP("Localizable", "This FFmpeg has no %1 encoder"),
+        QT_TRANSLATE_NOOP("Localizable", "This FFmpeg has no %1 muxer"),
+        // The editor's size estimate (%1: "45–80 MB" or "14 MB").
+        QT_TRANSLATE_NOOP("Localizable", "≈ %1 per 10 minutes"),
+        QT_TRANSLATE_NOOP("Localizable", "%1 per 10 minutes"),
+        QT_TRANSLATE_NOOP("Localizable", "Size not known for an automatic codec"),
     };
 
     // boundKeys as the manager hands them out, duplicates included.

@@ -105,6 +105,25 @@ LMFFmpegArguments::Command(const std::shared_ptr<const ILMFormatPreset>& preset,
     return out;
 }
 
+std::vector<std::string>
+LMFFmpegArguments::RequiredEncoders(const std::shared_ptr<const ILMFormatPreset>& preset) {
+    const auto options = OutputOptions(preset);
+    std::vector<std::string> encoders;
+    for (std::size_t i = 0; i + 1 < options.size(); ++i) {
+        if (options[i] == "-c:v" || options[i] == "-c:a")
+            encoders.push_back(options[i + 1]);
+    }
+    return encoders;
+}
+
+std::string LMFFmpegArguments::Muxer(const std::shared_ptr<const ILMFormatPreset>& preset) {
+    const auto options = OutputOptions(preset);
+    // The muxer is the last option pair; "-f" may appear earlier only as a value.
+    if (options.size() >= 2 && options[options.size() - 2] == "-f")
+        return options.back();
+    return {};
+}
+
 std::string LMFFmpegArguments::FileExtension(const std::shared_ptr<const ILMFormatPreset>& preset) {
     const auto* format = dynamic_cast<const LMFormatPreset*>(preset.get());
     return format ? format->Container().extension : std::string();

@@ -22,6 +22,12 @@ public:
     // A whole argument list: -y, -i input, the output options, output.
     static std::vector<std::string> Command(const std::shared_ptr<const ILMFormatPreset>& preset,
                                             const std::string& input, const std::string& output);
+    // What an FFmpeg must offer to run the preset, read off OutputOptions so the
+    // two never disagree: the encoders it names (video first, none for an
+    // automatic codec) and the muxer.
+    static std::vector<std::string>
+    RequiredEncoders(const std::shared_ptr<const ILMFormatPreset>& preset);
+    static std::string Muxer(const std::shared_ptr<const ILMFormatPreset>& preset);
     // The container's usual file extension, without the dot ("mp4").
     static std::string FileExtension(const std::shared_ptr<const ILMFormatPreset>& preset);
     // The arguments joined by blanks, each one quoted where a shell needs it.

@@ -2,6 +2,7 @@
 #include "ILMMediaFormatPopup.h"
 
 #include "ILMFmtPresetDataSource.h"
+#include "LMFFmpegAvailability.h"
 #include "LMMediaFormatPopupQt.h"
 #include "LMSingleton.h"
 
@@ -15,6 +16,15 @@ constinit LMSingleton<ILMMediaFormatPopup> s_popup{[]() -> std::shared_ptr<ILMMe
 
 std::shared_ptr<ILMMediaFormatPopup> ILMMediaFormatPopup::Shared() {
     return s_popup.Instance();
+}
+
+void ILMMediaFormatPopup::SetFFmpegPath(const std::string& path, const std::string& cacheDir) {
+    LMFFmpegAvailability::shared()->setFFmpegPath(path, cacheDir);
+}
+
+LMPresetAvailability
+ILMMediaFormatPopup::PresetAvailability(std::shared_ptr<const ILMFormatPreset> preset) const {
+    return LMFFmpegAvailability::shared()->availability(preset);
 }
 
 void ILMMediaFormatPopup::SetupExternalFormatData(const std::string& path) {

@@ -4,6 +4,7 @@
 #include "ILMFormatNode.h"
 #include "ILMFormatPreset.h"
 #include "LMMediaFormatPopupExport.h"
+#include "LMPresetAvailability.h"
 
 #include <functional>
 #include <memory>
@@ -60,6 +61,17 @@ public:
     // Blocks until the load started by SetupExternalFormatData has finished;
     // returns at once when no load was started.
     void WaitForFormatDataLoadingComplete();
+
+    // Opt-in: the lists mark the presets this FFmpeg cannot run (path empty:
+    // the "ffmpeg" on PATH). Such a row is drawn dimmed with a warning mark, and
+    // its tool tip and accessible description say what the binary lacks and
+    // which preset to pick instead; it can still be chosen. The binary is asked
+    // once off the GUI thread, its answer cached per binary in cacheDir (empty:
+    // the application's cache location). Without this call nothing is marked.
+    void SetFFmpegPath(const std::string& path, const std::string& cacheDir = {});
+    // What the FFmpeg of SetFFmpegPath says of a preset (the one a completion
+    // received, say): Unknown before the call or while the binary is asked.
+    LMPresetAvailability PresetAvailability(std::shared_ptr<const ILMFormatPreset> preset) const;
 };
 
 } // namespace Lumeran

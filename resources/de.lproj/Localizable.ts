@@ -402,6 +402,32 @@
     <message>
         <source>Show all presets again</source>
         <translation>Wieder alle Voreinstellungen zeigen</translation>
+        <source>This FFmpeg has no %1 encoder — try %2</source>
+        <translation>Diesem FFmpeg fehlt der Encoder %1 — versuchen Sie %2</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 muxer — try %2</source>
+        <translation>Diesem FFmpeg fehlt der Muxer %1 — versuchen Sie %2</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 encoder</source>
+        <translation>Diesem FFmpeg fehlt der Encoder %1</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 muxer</source>
+        <translation>Diesem FFmpeg fehlt der Muxer %1</translation>
+    </message>
+    <message>
+        <source>≈ %1 per 10 minutes</source>
+        <translation>≈ %1 pro 10 Minuten</translation>
+    </message>
+    <message>
+        <source>%1 per 10 minutes</source>
+        <translation>%1 pro 10 Minuten</translation>
+    </message>
+    <message>
+        <source>Size not known for an automatic codec</source>
+        <translation>Größe bei automatischem Codec unbekannt</translation>
     </message>
 </context>
 </TS>

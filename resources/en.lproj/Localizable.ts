@@ -402,6 +402,32 @@
     <message>
         <source>Show all presets again</source>
         <translation>Show all presets again</translation>
+        <source>This FFmpeg has no %1 encoder — try %2</source>
+        <translation>This FFmpeg has no %1 encoder — try %2</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 muxer — try %2</source>
+        <translation>This FFmpeg has no %1 muxer — try %2</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 encoder</source>
+        <translation>This FFmpeg has no %1 encoder</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 muxer</source>
+        <translation>This FFmpeg has no %1 muxer</translation>
+    </message>
+    <message>
+        <source>≈ %1 per 10 minutes</source>
+        <translation>≈ %1 per 10 minutes</translation>
+    </message>
+    <message>
+        <source>%1 per 10 minutes</source>
+        <translation>%1 per 10 minutes</translation>
+    </message>
+    <message>
+        <source>Size not known for an automatic codec</source>
+        <translation>Size not known for an automatic codec</translation>
     </message>
 </context>
 </TS>

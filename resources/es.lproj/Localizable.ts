@@ -402,6 +402,32 @@
     <message>
         <source>Show all presets again</source>
         <translation>Volver a mostrar todos los ajustes</translation>
+        <source>This FFmpeg has no %1 encoder — try %2</source>
+        <translation>Este FFmpeg no tiene el codificador %1 — prueba %2</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 muxer — try %2</source>
+        <translation>Este FFmpeg no tiene el multiplexor %1 — prueba %2</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 encoder</source>
+        <translation>Este FFmpeg no tiene el codificador %1</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 muxer</source>
+        <translation>Este FFmpeg no tiene el multiplexor %1</translation>
+    </message>
+    <message>
+        <source>≈ %1 per 10 minutes</source>
+        <translation>≈ %1 cada 10 minutos</translation>
+    </message>
+    <message>
+        <source>%1 per 10 minutes</source>
+        <translation>%1 cada 10 minutos</translation>
+    </message>
+    <message>
+        <source>Size not known for an automatic codec</source>
+        <translation>Tamaño desconocido con un códec automático</translation>
     </message>
 </context>
 </TS>

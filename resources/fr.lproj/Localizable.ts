@@ -402,6 +402,32 @@
     <message>
         <source>Show all presets again</source>
         <translation>Afficher de nouveau tous les préréglages</translation>
+        <source>This FFmpeg has no %1 encoder — try %2</source>
+        <translation>Ce FFmpeg n’a pas d’encodeur %1 — essayez %2</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 muxer — try %2</source>
+        <translation>Ce FFmpeg n’a pas de multiplexeur %1 — essayez %2</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 encoder</source>
+        <translation>Ce FFmpeg n’a pas d’encodeur %1</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 muxer</source>
+        <translation>Ce FFmpeg n’a pas de multiplexeur %1</translation>
+    </message>
+    <message>
+        <source>≈ %1 per 10 minutes</source>
+        <translation>≈ %1 par 10 minutes</translation>
+    </message>
+    <message>
+        <source>%1 per 10 minutes</source>
+        <translation>%1 par 10 minutes</translation>
+    </message>
+    <message>
+        <source>Size not known for an automatic codec</source>
+        <translation>Taille inconnue avec un codec automatique</translation>
     </message>
 </context>
 </TS>

@@ -402,6 +402,32 @@
     <message>
         <source>Show all presets again</source>
         <translation>Mostra di nuovo tutte le preimpostazioni</translation>
+        <source>This FFmpeg has no %1 encoder — try %2</source>
+        <translation>Questo FFmpeg non ha l’encoder %1 — prova %2</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 muxer — try %2</source>
+        <translation>Questo FFmpeg non ha il muxer %1 — prova %2</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 encoder</source>
+        <translation>Questo FFmpeg non ha l’encoder %1</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 muxer</source>
+        <translation>Questo FFmpeg non ha il muxer %1</translation>
+    </message>
+    <message>
+        <source>≈ %1 per 10 minutes</source>
+        <translation>≈ %1 ogni 10 minuti</translation>
+    </message>
+    <message>
+        <source>%1 per 10 minutes</source>
+        <translation>%1 ogni 10 minuti</translation>
+    </message>
+    <message>
+        <source>Size not known for an automatic codec</source>
+        <translation>Dimensione sconosciuta con un codec automatico</translation>
     </message>
 </context>
 </TS>

@@ -402,6 +402,32 @@
     <message>
         <source>Show all presets again</source>
         <translation>すべてのプリセットを再表示</translation>
+        <source>This FFmpeg has no %1 encoder — try %2</source>
+        <translation>このFFmpegには%1エンコーダーがありません — %2をお試しください</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 muxer — try %2</source>
+        <translation>このFFmpegには%1マルチプレクサーがありません — %2をお試しください</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 encoder</source>
+        <translation>このFFmpegには%1エンコーダーがありません</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 muxer</source>
+        <translation>このFFmpegには%1マルチプレクサーがありません</translation>
+    </message>
+    <message>
+        <source>≈ %1 per 10 minutes</source>
+        <translation>10分あたり約%1</translation>
+    </message>
+    <message>
+        <source>%1 per 10 minutes</source>
+        <translation>10分あたり%1</translation>
+    </message>
+    <message>
+        <source>Size not known for an automatic codec</source>
+        <translation>自動コーデックではサイズを見積もれません</translation>
     </message>
 </context>
 </TS>

@@ -402,6 +402,32 @@
     <message>
         <source>Show all presets again</source>
         <translation>Mostrar de novo todas as predefinições</translation>
+        <source>This FFmpeg has no %1 encoder — try %2</source>
+        <translation>Este FFmpeg não tem o codificador %1 — experimente %2</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 muxer — try %2</source>
+        <translation>Este FFmpeg não tem o multiplexador %1 — experimente %2</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 encoder</source>
+        <translation>Este FFmpeg não tem o codificador %1</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 muxer</source>
+        <translation>Este FFmpeg não tem o multiplexador %1</translation>
+    </message>
+    <message>
+        <source>≈ %1 per 10 minutes</source>
+        <translation>≈ %1 a cada 10 minutos</translation>
+    </message>
+    <message>
+        <source>%1 per 10 minutes</source>
+        <translation>%1 a cada 10 minutos</translation>
+    </message>
+    <message>
+        <source>Size not known for an automatic codec</source>
+        <translation>Tamanho desconhecido com um codec automático</translation>
     </message>
 </context>
 </TS>

@@ -402,6 +402,32 @@
     <message>
         <source>Show all presets again</source>
         <translation>重新显示所有预设</translation>
+        <source>This FFmpeg has no %1 encoder — try %2</source>
+        <translation>此 FFmpeg 没有 %1 编码器 — 请尝试 %2</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 muxer — try %2</source>
+        <translation>此 FFmpeg 没有 %1 复用器 — 请尝试 %2</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 encoder</source>
+        <translation>此 FFmpeg 没有 %1 编码器</translation>
+    </message>
+    <message>
+        <source>This FFmpeg has no %1 muxer</source>
+        <translation>此 FFmpeg 没有 %1 复用器</translation>
+    </message>
+    <message>
+        <source>≈ %1 per 10 minutes</source>
+        <translation>每 10 分钟约 %1</translation>
+    </message>
+    <message>
+        <source>%1 per 10 minutes</source>
+        <translation>每 10 分钟 %1</translation>
+    </message>
+    <message>
+        <source>Size not known for an automatic codec</source>
+        <translation>自动编解码器无法估算大小</translation>
     </message>
 </context>
 </TS>

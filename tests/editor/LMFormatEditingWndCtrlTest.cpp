@@ -12,6 +12,7 @@
 #include "LMFormatRegistry.h"
 #include "LMNewPresetPrompt.h"
 #include "LMNewPresetView.h"
+#include "LMSizeEstimate.h"
 #include "LMUiTestSupport.h"
 
 #include <QCloseEvent>
@@ -774,4 +775,93 @@ TEST_F(LMFormatEditingWndCtrlTest, ANewPresetWithOtherSettingsDescribesThem) {
     const auto created = group->FindFormatPreset("Phone small");
     ASSERT_TRUE(created);
     EXPECT_EQ(created->Description(), "H.264 854x480 / AAC");
+}
+
+// ---- The size estimate ---------------------------------------------------------------
+
+TEST_F(LMFormatEditingWndCtrlTest, TheSizeLineFollowsTheSettingsAsTheyChange) {
+    const auto preset = cataloguePreset(mp4, "High Quality");
+    edit(preset, mp4, [this] {
+        QLabel* line = editor.findChild<QLabel*>(QStringLiteral("lblSizeEstimate"));
+        ASSERT_TRUE(line);
+        EXPECT_TRUE(line->isVisible());
+        const auto estimate = [this] { return LMSizeEstimate::For(d->editingPreset(), 600); };
+        // What the line says is the estimate of the settings the boxes show.
+        const auto expected = [&estimate] {
+            return Localized("≈ %1 per 10 minutes").arg(QString::fromStdString(estimate().Size()));
+        };
+        static const QRegularExpression range(
+            QStringLiteral("^≈ [0-9.]+( [kMG]B)?–[0-9.]+ [kMG]B per 10 minutes$"));
+        const QString sameAsSource = line->text();
+        EXPECT_TRUE(range.match(sameAsSource).hasMatch()) << sameAsSource.toStdString();
+        EXPECT_EQ(sameAsSource, expected());
+        const auto fullHd = estimate();
+
+        choose("cmbResolution", QStringLiteral("1280x720"));
+        const QString hd = line->text();
+        EXPECT_NE(hd, sameAsSource);
+        EXPECT_EQ(hd, expected());
+        EXPECT_LT(estimate().High(), fullHd.High());
+        const auto high = estimate();
+
+        choose("cmbVQuality", QStringLiteral("Low"));
+        EXPECT_NE(line->text(), hd);
+        EXPECT_EQ(line->text(), expected());
+        EXPECT_LT(estimate().High(), high.High());
+    });
+}
+
+TEST_F(LMFormatEditingWndCtrlTest, PcmAudioGivesOneExactSize) {
+    const auto wav = catalogueNode("Audio", "WAV");
+    const auto preset = cataloguePreset(wav, "High Quality");
+    edit(preset, wav, [this] {
+        QLabel* line = editor.findChild<QLabel*>(QStringLiteral("lblSizeEstimate"));
+        ASSERT_TRUE(line);
+        const auto audio = d->editingPreset()->CurrentAudioCodec();
+        const auto rate = audio->CurrentSamplerate();
+        const auto layout = audio->CurrentChannelLayout();
+        ASSERT_FALSE(rate->IsAutoValue());
+        ASSERT_FALSE(layout->IsAutoValue());
+        const double bytes = 2.0 * rate->Hertz() * layout->Channels() * 600;
+        EXPECT_EQ(line->text(),
+                  Localized("%1 per 10 minutes")
+                      .arg(QString::fromStdString(LMSizeEstimate::FormatBytes(bytes))));
+        choose("cmbChannel", QStringLiteral("Mono"));
+        EXPECT_EQ(line->text(),
+                  Localized("%1 per 10 minutes")
+                      .arg(QString::fromStdString(LMSizeEstimate::FormatBytes(bytes / 2))));
+    });
+}
+
+TEST_F(LMFormatEditingWndCtrlTest, AnAutomaticCodecHasNoSize) {
+    auto preset = ILMFormatPreset::MallocFormatPreset("mp4", "Automatic");
+    preset->SetCurrentVideoCodec(3);
+    ASSERT_TRUE(preset->CurrentVideoCodec()->IsAutoValue());
+    edit(preset, mp4, [this] {
+        QLabel* line = editor.findChild<QLabel*>(QStringLiteral("lblSizeEstimate"));
+        ASSERT_TRUE(line);
+        EXPECT_EQ(line->text(), QStringLiteral("Size not known for an automatic codec"));
+        choose("cmbVEncoder", QStringLiteral("H.264"));
+        EXPECT_TRUE(line->text().startsWith(QStringLiteral("≈ "))) << line->text().toStdString();
+    });
+}
+
+TEST_F(LMFormatEditingWndCtrlTest, TheSizeLineIsInTheEditorsLanguage) {
+    const auto preset = cataloguePreset(mp4, "High Quality");
+    for (const QString& language : TestSupport::EveryLanguage()) {
+        LMFormatInternationalizationMgr::sharedObject()->setLanguage(language);
+        edit(preset->Clone(), mp4, [this, &language] {
+            QLabel* line = editor.findChild<QLabel*>(QStringLiteral("lblSizeEstimate"));
+            ASSERT_TRUE(line);
+            const QString template_ = Localized("≈ %1 per 10 minutes");
+            EXPECT_EQ(line->text(), template_.arg(QString::fromStdString(
+                                        LMSizeEstimate::For(d->editingPreset(), 600).Size())))
+                << language.toStdString();
+            if (language != LMFormatLanguageEnglish) {
+                EXPECT_NE(template_, QStringLiteral("≈ %1 per 10 minutes"))
+                    << language.toStdString();
+            }
+        });
+    }
+    LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageEnglish);
 }

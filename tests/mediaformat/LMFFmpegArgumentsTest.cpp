@@ -52,6 +52,19 @@ TEST(LMFFmpegArgumentsTest, AutomaticCodecLeavesTheChoiceToTheMuxer) {
     EXPECT_EQ(Line(preset).find("-c:v"), std::string::npos);
 }
 
+TEST(LMFFmpegArgumentsTest, RequirementsAreTheEncodersAndMuxerTheOptionsName) {
+    const auto preset = MakePreset("mkv", "");
+    EXPECT_EQ(LMFFmpegArguments::RequiredEncoders(preset),
+              (std::vector<std::string>{"libx264", "aac"}));
+    EXPECT_EQ(LMFFmpegArguments::Muxer(preset), "matroska");
+    preset->SetCurrentVideoCodec(1); // HEVC
+    EXPECT_EQ(LMFFmpegArguments::RequiredEncoders(preset).front(), "libx265");
+    preset->SetCurrentVideoCodec(-1);
+    EXPECT_EQ(LMFFmpegArguments::RequiredEncoders(preset), (std::vector<std::string>{"aac"}));
+    EXPECT_TRUE(LMFFmpegArguments::RequiredEncoders(nullptr).empty());
+    EXPECT_EQ(LMFFmpegArguments::Muxer(nullptr), "");
+}
+
 TEST(LMFFmpegArgumentsTest, CommandWrapsInputAndOutput) {
     const auto args = LMFFmpegArguments::Command(MakePreset("wav", ""), "in put.mov", "out.wav");
     ASSERT_GE(args.size(), 4u);

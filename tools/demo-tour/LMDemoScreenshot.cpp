@@ -10,10 +10,14 @@
 
 namespace {
 
+bool s_showsToolTips = false;
+
 // Host windows first, then tool windows (the popup), then dialogs, a dialog
 // over the one it belongs to (the name prompt over the editor): the order in
 // which a window manager stacks them. topLevelWidgets() has no order of its own.
 int StackingRank(const QWidget* window) {
+    if (window->windowType() == Qt::ToolTip)
+        return 1000;
     if (window->isModal() || window->windowType() == Qt::Dialog) {
         int depth = 0;
         for (const QWidget* owner = window->parentWidget(); owner; owner = owner->parentWidget())
@@ -28,7 +32,7 @@ int StackingRank(const QWidget* window) {
 QList<QWidget*> VisibleWindows() {
     QList<QWidget*> windows;
     for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget->isVisible() && widget->windowType() != Qt::ToolTip &&
+        if (widget->isVisible() && (widget->windowType() != Qt::ToolTip || s_showsToolTips) &&
             widget->windowType() != Qt::Desktop)
             windows.append(widget);
     }
@@ -71,6 +75,10 @@ QImage LMDemoScreenshot::compose(const QRect& area) {
     }
     DrawPointer(painter, QCursor::pos());
     return image;
+}
+
+void LMDemoScreenshot::setShowsToolTips(bool shows) {
+    s_showsToolTips = shows;
 }
 
 bool LMDemoScreenshot::save(const QString& path) {

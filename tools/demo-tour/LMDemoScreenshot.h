@@ -14,4 +14,7 @@ public:
     // compose() of the area that holds every visible window, with a margin, saved
     // as PNG; false when the file could not be written.
     static bool save(const QString& path);
+    // Whether tool tips are drawn (on top of every window). Off by default: the
+    // tour's hovers leave tips that would land in later pictures.
+    static void setShowsToolTips(bool shows);
 };

@@ -9,6 +9,7 @@
 #include "LMDemoConverter.h"
 #include "LMDemoHostWindow.h"
 #include "LMDemoScreenshot.h"
+#include "LMFFmpegAvailability.h"
 #include "LMFmtNodeViewCtrl.h"
 #include "LMFormatCollectionView.h"
 #include "LMFormatDataView.h"
@@ -36,6 +37,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 
 #include <algorithm>
 #include <cstdio>
@@ -125,7 +127,7 @@ bool LMDemoTour::run() {
     m_host->show();
     settle();
 
-    if (!popupSteps() || !choiceSteps() || !editorSteps() || !darkSteps() ||
+    if (!popupSteps() || !choiceSteps() || !editorSteps() || !darkSteps() || !unavailableSteps() ||
         (m_convert && !conversionSteps()))
         return false;
     std::printf("%d screenshots written.\n", m_shots);
@@ -423,6 +425,52 @@ bool LMDemoTour::darkSteps() {
     shot =
         shot && shootEditor(mp4->FormatPresetAt(0)->Clone(), mp4, QStringLiteral("15-dark-editor"));
     QApplication::setPalette(light);
+    settle();
+    return shot;
+}
+
+// The host names an FFmpeg that lacks libx265 (the real one, its encoder list
+// filtered by a script): the HEVC presets are drawn faint with a warning mark,
+// and the pointer resting on one shows what to pick instead.
+bool LMDemoTour::unavailableSteps() {
+    QTemporaryDir bin;
+    const QString fake = bin.filePath(QStringLiteral("ffmpeg"));
+    QFile script(fake);
+    if (!check(bin.isValid() && script.open(QIODevice::WriteOnly), "cannot write the FFmpeg"))
+        return false;
+    script.write("#!/bin/sh\n"
+                 "case \"$*\" in *-encoders*) ffmpeg \"$@\" | grep -v ' libx265 '; exit 0;; esac\n"
+                 "exec ffmpeg \"$@\"\n");
+    script.close();
+    script.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    ILMMediaFormatPopup::Shared()->SetFFmpegPath(
+        fake.toStdString(), bin.filePath(QStringLiteral("cache")).toStdString());
+    const bool answered = LMFFmpegAvailability::shared()->waitForReady(60000);
+    settle();
+    // 16. The HEVC MP4 presets of the first category, the pointer on the first.
+    QTest::mouseClick(m_host->formatButton(), Qt::LeftButton);
+    settle();
+    clickTab(1);
+    auto* nodes = Popup()->defFmtViewCtrls().at(0)->nodeListView();
+    clickRow(nodes, 1);
+    QAbstractItemView* presets = categoryPresetList(0);
+    const QModelIndex first = presets ? presets->model()->index(0, 0) : QModelIndex();
+    const QString reason = first.data(Qt::ToolTipRole).toString();
+    bool shot = check(answered && reason.contains(QStringLiteral("libx265")),
+                      "the FFmpeg without libx265 marked no preset");
+    if (shot) {
+        hoverRow(presets, 0);
+        const QRect row = presets->visualRect(first);
+        QToolTip::showText(presets->viewport()->mapToGlobal(row.center() + QPoint(0, 14)), reason,
+                           presets->viewport());
+        settle();
+        LMDemoScreenshot::setShowsToolTips(true);
+        shot = shoot(QStringLiteral("16-unavailable-preset"));
+        LMDemoScreenshot::setShowsToolTips(false);
+        QToolTip::hideText();
+    }
+    QTest::keyClick(Popup()->searchField(), Qt::Key_Escape);
+    LMFFmpegAvailability::shared()->clear();
     settle();
     return shot;
 }

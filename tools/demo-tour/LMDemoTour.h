@@ -47,6 +47,7 @@ private:
                      std::shared_ptr<const Lumeran::ILMFormatNode> node, const QString& name);
     bool conversionSteps();
     bool darkSteps();
+    bool unavailableSteps();
 
     std::string m_cataloguePath;
     QString m_outputDir;

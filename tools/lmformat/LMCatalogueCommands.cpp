@@ -5,6 +5,7 @@
 #include "LMCliCall.h"
 #include "LMCliOutput.h"
 #include "LMFFmpegArguments.h"
+#include "LMFFmpegCommands.h"
 #include "LMFormatInternationalizationMgr.h"
 
 #include <cstdio>
@@ -66,7 +67,8 @@ int Validate(const LMCliCall& call) {
         formats += CountNodes(root->ChildAt(i));
     std::printf("%d categories, %d formats, %d presets\n", root->ChildCount(), formats,
                 CountPresets(root));
-    return 0;
+    std::fflush(stdout);
+    return call.ffmpegGiven ? LMFFmpegCommands::ListUnavailable(call) : 0;
 }
 
 int Tree(const LMCliCall& call) {

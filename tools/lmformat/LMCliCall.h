@@ -20,6 +20,10 @@ struct LMCliCall {
     // Set by --language: titles and descriptions are shown as the popup shows
     // them, each with its description after a tab.
     bool localized = false;
+    // The FFmpeg of --ffmpeg PATH, for the commands that take it; empty when not
+    // given ("ffmpeg" on PATH, for the commands that need one).
+    QString ffmpeg;
+    bool ffmpegGiven = false;
 
     std::string Operand(qsizetype index) const { return operands.at(index).toStdString(); }
 };

@@ -4,6 +4,7 @@
 #include "LMCatalogueCommands.h"
 #include "LMCliCall.h"
 #include "LMCliOutput.h"
+#include "LMFFmpegCommands.h"
 #include "LMListCommands.h"
 
 #include <algorithm>
@@ -12,17 +13,27 @@
 namespace {
 
 using LMCliNeeds::Catalogue;
+using LMCliNeeds::CatalogueOrDefault;
 using LMCliNeeds::Nothing;
 using LMCliNeeds::Preset;
 namespace Lists = LMListCommands;
 namespace Catalogues = LMCatalogueCommands;
 
-const std::array<LMCliCommand, 12> kCommands{{
-    {"validate", "FILE", "Count the categories, formats and presets of a catalogue.", Catalogue,
-     Catalogues::Validate},
+const std::array<LMCliCommand, 14> kCommands{{
+    {"validate", "[FILE]",
+     "Count the categories, formats and presets of a catalogue (the default one without FILE); "
+     "with --ffmpeg, list the presets that FFmpeg cannot run and why.",
+     CatalogueOrDefault, Catalogues::Validate, "", true},
     {"tree", "FILE", "Print every node and preset of a catalogue.", Catalogue, Catalogues::Tree},
     {"ffmpeg", "FILE \"CATEGORY/FORMAT/PRESET\"", "Print a preset's ffmpeg output options.", Preset,
      Catalogues::FFmpeg},
+    {"verify", "[CATALOGUE [PRESET]]",
+     "Encode a generated clip with every preset (of the default catalogue without one), probe "
+     "it with ffprobe and print OK or what differs.",
+     CatalogueOrDefault, LMFFmpegCommands::Verify, "", true},
+    {"estimate", "CATALOGUE \"CATEGORY/FORMAT/PRESET\" DURATION",
+     "Print the expected output size of a preset for a duration (seconds, M:SS or H:MM:SS).",
+     Preset, LMFFmpegCommands::Estimate},
     {"search", "CATALOGUE TEXT", "Print what the popup's search finds for a text.", Catalogue,
      Catalogues::Search},
     {"recent list", "", "Print the recent list, newest first.", Nothing, Lists::RecentList},
@@ -46,6 +57,28 @@ QStringList OperandsOf(const LMCliCommand& command) {
     return QString::fromUtf8(command.operands).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
+qsizetype RequiredOperands(const LMCliCommand& command) {
+    const QStringList operands = OperandsOf(command);
+    return std::count_if(operands.begin(), operands.end(),
+                         [](const QString& word) { return !word.startsWith(QLatin1Char('[')); });
+}
+
+// Takes "--ffmpeg PATH" out of the operands of a command that accepts it;
+// false when the option lacks its path.
+bool TakeFFmpegOption(LMCliCall& call) {
+    if (!call.command->takesFFmpeg)
+        return true;
+    const qsizetype at = call.operands.indexOf(QStringLiteral("--ffmpeg"));
+    if (at < 0)
+        return true;
+    if (at + 1 >= call.operands.size() || call.operands.at(at + 1).isEmpty())
+        return false;
+    call.ffmpeg = call.operands.at(at + 1);
+    call.ffmpegGiven = true;
+    call.operands.remove(at, 2);
+    return true;
+}
+
 // "recent|custom backups" answers to the groups "recent" and "custom" and the
 // verb "backups"; a command without a group answers to its name alone.
 QStringList GroupsOf(const LMCliCommand& command) {
@@ -59,9 +92,12 @@ QString VerbOf(const LMCliCommand& command) {
     return NameOf(command).section(QLatin1Char(' '), -1);
 }
 
-// head, then the command's operands, if it has any.
+// head, then the command's options and operands, if it has any.
 QString WithOperands(const QString& head, const LMCliCommand& command) {
-    const QString operands = QString::fromUtf8(command.operands);
+    QString operands = QString::fromUtf8(command.operands);
+    if (command.takesFFmpeg)
+        operands = QStringLiteral("[--ffmpeg PATH] ") + operands;
+    operands = operands.trimmed();
     return operands.isEmpty() ? head : head + QLatin1Char(' ') + operands;
 }
 
@@ -97,7 +133,8 @@ const LMCliCommand* Find(const QString& group, const QString& verb) {
 }
 
 int RunCommand(LMCliCall& call) {
-    if (call.operands.size() != OperandsOf(*call.command).size())
+    if (!TakeFFmpegOption(call) || call.operands.size() < RequiredOperands(*call.command) ||
+        call.operands.size() > OperandsOf(*call.command).size())
         return LMCliOutput::Fail(LMCliCommands::UsageOf(*call.command));
     if (!call.target.Load(call.command->needs, call.operands))
         return 1;

@@ -3,6 +3,7 @@
 
 #include "ILMJsonReader.h"
 #include "LMCliOutput.h"
+#include "LMDefaultCatalogue.h"
 
 using namespace Lumeran;
 
@@ -35,10 +36,12 @@ std::shared_ptr<const ILMFormatNode> FindNode(const std::shared_ptr<const ILMFor
 bool LMCliTarget::Load(LMCliNeeds needs, const QStringList& operands) {
     if (needs == LMCliNeeds::Nothing)
         return true;
-    catalogue = LoadCatalogue(operands.at(0).toStdString());
+    catalogue = LoadCatalogue(operands.isEmpty() ? LMDefaultCatalogue::Path()
+                                                 : operands.at(0).toStdString());
     if (!catalogue)
         return false;
-    if (needs == LMCliNeeds::Catalogue)
+    if (needs == LMCliNeeds::Catalogue ||
+        (needs == LMCliNeeds::CatalogueOrDefault && operands.size() < 2))
         return true;
     const QStringList parts = operands.at(1).split(QLatin1Char('/'));
     node = parts.size() < 2 ? nullptr : FindNode(catalogue, parts);

@@ -16,6 +16,9 @@ enum class LMCliNeeds {
     // The catalogue, and the preset its second operand names as
     // "CATEGORY/FORMAT/PRESET".
     Preset,
+    // The catalogue of the first operand, or the default catalogue when there
+    // is none, and the preset of the second operand when it is given.
+    CatalogueOrDefault,
 };
 
 // The catalogue and preset a command's operands name. Every command that reads
