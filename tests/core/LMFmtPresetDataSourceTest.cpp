@@ -1049,7 +1049,7 @@ TEST_F(LMFmtPresetDataSourceTest, ListSearchMatchesTitleOrDescriptionAndReturnsT
     const auto source = MakeSource();
     source->PushRecentItem(Entry("MKV", "Matroska"));
     source->PushRecentItem(Entry("WAV", "Waveform audio"));
-    source->PushRecentItem(Entry("MP4", "MPEG-4 Part 14"));
+    source->PushRecentItem(Entry("MP4", "MPEG-4 file format"));
     const auto list = source->GetRecentList();
 
     const auto byTitle = source->SearchFormatPresets(list, "mkv");

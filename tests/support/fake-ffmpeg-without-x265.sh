@@ -323,7 +323,7 @@ File formats:
   E ilbc            iLBC storage
   E image2          image2 sequence
   E image2pipe      piped image2 sequence
-  E ipod            iPod H.264 MP4 (MPEG-4 Part 14)
+  E ipod            iPod H.264 MP4 (MPEG-4 file format)
   E ircam           Berkeley/IRCAM/CARL Sound Format
   E ismv            ISMV/ISMA (Smooth Streaming)
   E ivf             On2 IVF
@@ -342,7 +342,7 @@ File formats:
   E mov             QuickTime / MOV
   E mp2             MP2 (MPEG audio layer 2)
   E mp3             MP3 (MPEG audio layer 3)
-  E mp4             MP4 (MPEG-4 Part 14)
+  E mp4             MP4 (MPEG-4 file format)
   E mpeg            MPEG-1 Systems / MPEG program stream
   E mpeg1video      raw MPEG-1 video
   E mpeg2video      raw MPEG-2 video
@@ -362,7 +362,7 @@ File formats:
   E opengl          OpenGL output
   E opus            Ogg Opus
   E oss             OSS (Open Sound System) playback
-  E psp             PSP MP4 (MPEG-4 Part 14)
+  E psp             PSP MP4 (MPEG-4 file format)
   E pulse           Pulse audio output
   E rawvideo        raw video
   E rm              RealMedia
