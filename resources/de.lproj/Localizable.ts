@@ -402,6 +402,8 @@
     <message>
         <source>Show all presets again</source>
         <translation>Wieder alle Voreinstellungen zeigen</translation>
+    </message>
+    <message>
         <source>This FFmpeg has no %1 encoder — try %2</source>
         <translation>Diesem FFmpeg fehlt der Encoder %1 — versuchen Sie %2</translation>
     </message>

@@ -402,6 +402,8 @@
     <message>
         <source>Show all presets again</source>
         <translation>Show all presets again</translation>
+    </message>
+    <message>
         <source>This FFmpeg has no %1 encoder — try %2</source>
         <translation>This FFmpeg has no %1 encoder — try %2</translation>
     </message>

@@ -402,6 +402,8 @@
     <message>
         <source>Show all presets again</source>
         <translation>Volver a mostrar todos los ajustes</translation>
+    </message>
+    <message>
         <source>This FFmpeg has no %1 encoder — try %2</source>
         <translation>Este FFmpeg no tiene el codificador %1 — prueba %2</translation>
     </message>

@@ -402,6 +402,8 @@
     <message>
         <source>Show all presets again</source>
         <translation>Afficher de nouveau tous les préréglages</translation>
+    </message>
+    <message>
         <source>This FFmpeg has no %1 encoder — try %2</source>
         <translation>Ce FFmpeg n’a pas d’encodeur %1 — essayez %2</translation>
     </message>

@@ -402,6 +402,8 @@
     <message>
         <source>Show all presets again</source>
         <translation>Mostra di nuovo tutte le preimpostazioni</translation>
+    </message>
+    <message>
         <source>This FFmpeg has no %1 encoder — try %2</source>
         <translation>Questo FFmpeg non ha l’encoder %1 — prova %2</translation>
     </message>

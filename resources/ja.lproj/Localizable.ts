@@ -402,6 +402,8 @@
     <message>
         <source>Show all presets again</source>
         <translation>すべてのプリセットを再表示</translation>
+    </message>
+    <message>
         <source>This FFmpeg has no %1 encoder — try %2</source>
         <translation>このFFmpegには%1エンコーダーがありません — %2をお試しください</translation>
     </message>

@@ -402,6 +402,8 @@
     <message>
         <source>Show all presets again</source>
         <translation>Mostrar de novo todas as predefinições</translation>
+    </message>
+    <message>
         <source>This FFmpeg has no %1 encoder — try %2</source>
         <translation>Este FFmpeg não tem o codificador %1 — experimente %2</translation>
     </message>

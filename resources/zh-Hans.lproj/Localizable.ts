@@ -402,6 +402,8 @@
     <message>
         <source>Show all presets again</source>
         <translation>重新显示所有预设</translation>
+    </message>
+    <message>
         <source>This FFmpeg has no %1 encoder — try %2</source>
         <translation>此 FFmpeg 没有 %1 编码器 — 请尝试 %2</translation>
     </message>
