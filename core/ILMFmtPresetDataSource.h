@@ -7,6 +7,7 @@
 #include "ILMFormatPreset.h"
 #include "LMCoreExport.h"
 #include "LMCustomPresetRef.h"
+#include "LMPresetArgumentsResult.h"
 #include "LMPresetBackup.h"
 #include "LMPresetFileResult.h"
 
@@ -146,6 +147,15 @@ public:
     // not listed or already first (up) or last (down).
     virtual bool MoveCustomPreset(const std::string& group, const std::string& title,
                                   MoveDirection direction) = 0;
+    // Files, as a custom preset named name, the preset whose FFmpeg output options
+    // come nearest to arguments (an FFmpeg command line cut into words, as a shell
+    // cuts it), under the format node of the external tree (or, before it is
+    // loaded, of the built-in catalogue) that holds presets of its container.
+    // Says which arguments the preset does not give. Refuses an empty or too long
+    // name, and one the group already has.
+    virtual LMPresetArgumentsResult
+    AddCustomPresetFromArguments(const std::string& name,
+                                 const std::vector<std::string>& arguments) = 0;
 
 protected:
     ILMFmtPresetDataSource() = default;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "LMCustomListChanges.h"
 
+#include "LMFFmpegArgumentsReader.h"
 #include "LMPresetFile.h"
 #include "LMPresetNames.h"
 
@@ -21,6 +22,35 @@ int IndexOf(const std::shared_ptr<const ILMFormatNode>& group, const std::string
             return i;
     }
     return -1;
+}
+
+// The first format node, depth first, that holds a preset of that container.
+std::shared_ptr<const ILMFormatNode> NodeOf(const std::shared_ptr<const ILMFormatNode>& node,
+                                            const std::string& formatId, int depth = 0) {
+    if (!node || depth > ILMFormatNode::MaxDepth)
+        return {};
+    for (int i = 0; i < node->FormatPresetCount(); ++i) {
+        if (node->FormatPresetAt(i)->FormatId() == formatId)
+            return node;
+    }
+    for (int i = 0; i < node->ChildCount(); ++i) {
+        if (auto found = NodeOf(node->ChildAt(i), formatId, depth + 1))
+            return found;
+    }
+    return {};
+}
+
+// Why name cannot be a new title in group; empty when it can.
+std::string RefusedTitle(const std::shared_ptr<const ILMFormatNode>& group,
+                         const std::string& groupTitle, const std::string& name) {
+    if (name.empty())
+        return "a custom preset needs a name";
+    if (!ILMFormatNode::IsAcceptableText(name))
+        return "a custom preset name is limited to " +
+               std::to_string(ILMFormatNode::MaxTextLength) + " characters";
+    if (group && group->FindFormatPreset(name))
+        return "\"" + groupTitle + "\" already has a preset named \"" + name + "\"";
+    return {};
 }
 
 std::string ImportSummary(const LMPresetFileResult& result) {
@@ -111,13 +141,8 @@ bool LMCustomListChanges::Rename(const std::shared_ptr<ILMFormatNode>& root,
     const auto found = group ? group->FindFormatPreset(preset.title) : nullptr;
     if (!found)
         reason = "no custom preset \"" + preset.group + "/" + preset.title + "\"";
-    else if (newTitle.empty())
-        reason = "a custom preset needs a name";
-    else if (!ILMFormatNode::IsAcceptableText(newTitle))
-        reason = "a custom preset name is limited to " +
-                 std::to_string(ILMFormatNode::MaxTextLength) + " characters";
-    else if (newTitle != preset.title && group->FindFormatPreset(newTitle))
-        reason = "\"" + preset.group + "\" already has a preset named \"" + newTitle + "\"";
+    else // a preset may keep its own name
+        reason = RefusedTitle(newTitle != preset.title ? group : nullptr, preset.group, newTitle);
     if (!reason.empty()) {
         if (error)
             *error = reason;
@@ -149,6 +174,43 @@ bool LMCustomListChanges::Move(const std::shared_ptr<ILMFormatNode>& root,
         return false;
     const int to = direction == Direction::Up ? index - 1 : index + 1;
     return ILMFormatNode::MoveFormatPreset(group, index, to);
+}
+
+LMPresetArgumentsResult
+LMCustomListChanges::FromArguments(const std::shared_ptr<ILMFormatNode>& root,
+                                   const std::shared_ptr<const ILMFormatNode>& catalogue,
+                                   const std::string& name,
+                                   const std::vector<std::string>& arguments) {
+    LMPresetArgumentsResult result;
+    auto read = LMFFmpegArgumentsReader::PresetFromArguments(arguments);
+    if (!read.preset) {
+        result.message = "no container can be made from these arguments";
+        return result;
+    }
+    std::shared_ptr<const ILMFormatNode> group = NodeOf(catalogue, read.preset->FormatId());
+    if (!group) {
+        // A catalogue without the container: a group of its own name.
+        const std::string format = read.preset->FormatName();
+        group =
+            ILMFormatNode::MallocFormatNode(format, format + " file format", read.preset->FaceID());
+    }
+    result.group = group->Title();
+    result.message = RefusedTitle(root->FindChild(result.group), result.group, name);
+    if (!result.message.empty())
+        return result;
+    read.preset->SetTitle(name);
+    read.preset->SetDescription(ILMFormatPreset::DescribeSettings(*read.preset));
+    read.preset->SetFaceID(group->FaceID());
+    File(root, group, read.preset);
+    result.ok = true;
+    result.title = name;
+    result.notMapped = std::move(read.notMapped);
+    result.message = "added \"" + result.group + "/" + name + "\"";
+    if (!result.notMapped.empty())
+        result.message +=
+            "; " + Plural(static_cast<int>(result.notMapped.size()), "argument", "arguments") +
+            " did not map";
+    return result;
 }
 
 void LMCustomListChanges::File(const std::shared_ptr<ILMFormatNode>& root,

@@ -28,6 +28,12 @@ public:
                                  const LMCustomPresetRef& preset);
     static bool Move(const std::shared_ptr<ILMFormatNode>& root, const LMCustomPresetRef& preset,
                      Direction direction);
+    // Makes a preset from FFmpeg arguments and files it under the node of
+    // catalogue (which may be empty) that holds presets of its container.
+    static LMPresetArgumentsResult
+    FromArguments(const std::shared_ptr<ILMFormatNode>& root,
+                  const std::shared_ptr<const ILMFormatNode>& catalogue, const std::string& name,
+                  const std::vector<std::string>& arguments);
     // Files a copy of preset under the group of group's title, making the group
     // from a copy of group's attributes when there is none.
     static void File(const std::shared_ptr<ILMFormatNode>& root,

@@ -7,6 +7,7 @@
 #include "ILMStringHelper.h"
 #include "LMCatalogueLoadHook_p.h"
 #include "LMCustomListChanges.h"
+#include "LMDefaultCatalogue.h"
 #include "LMFormatReadOptions.h"
 #include "LMLoaderExitGuard.h"
 #include "LMShownText.h"
@@ -419,6 +420,17 @@ std::string LMFmtPresetDataSource::DuplicateCustomPreset(const std::string& grou
 bool LMFmtPresetDataSource::MoveCustomPreset(const std::string& group, const std::string& title,
                                              MoveDirection direction) {
     return LMCustomListChanges::Move(m_customRoot, {group, title}, direction);
+}
+
+LMPresetArgumentsResult
+LMFmtPresetDataSource::AddCustomPresetFromArguments(const std::string& name,
+                                                    const std::vector<std::string>& arguments) {
+    auto catalogue = GetExternalFormatPresets();
+    if (!catalogue) {
+        const auto json = ILMJsonReader::ReadJsonFile(LMDefaultCatalogue::Path(), nullptr);
+        catalogue = json ? ILMFormatNode::MallocFormatNode(json) : nullptr;
+    }
+    return LMCustomListChanges::FromArguments(m_customRoot, catalogue, name, arguments);
 }
 
 // ---- Search ----------------------------------------------------------------------

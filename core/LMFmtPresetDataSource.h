@@ -67,6 +67,9 @@ public:
     std::string DuplicateCustomPreset(const std::string& group, const std::string& title) override;
     bool MoveCustomPreset(const std::string& group, const std::string& title,
                           MoveDirection direction) override;
+    LMPresetArgumentsResult
+    AddCustomPresetFromArguments(const std::string& name,
+                                 const std::vector<std::string>& arguments) override;
 
     // The "Recent" tree behind the recent list (oldest child first), as it will
     // be saved; for inspection by tools and tests.

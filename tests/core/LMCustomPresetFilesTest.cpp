@@ -406,3 +406,37 @@ TEST_F(LMCustomPresetFilesTest, AFileWithNoPresetsImportsNothing) {
     EXPECT_TRUE(result.ok) << result.message;
     EXPECT_TRUE(Listed(*source).empty());
 }
+
+// =================================================================================
+// A pasted FFmpeg command line
+// =================================================================================
+
+TEST_F(LMCustomPresetFilesTest, FromArgumentsFilesThePresetUnderTheFormatNodeOfItsContainer) {
+    const std::vector<std::string> asked{"-c:v", "libx265", "-crf", "28", "-c:a",
+                                         "aac",  "-b:a",    "128k", "-f", "mp4"};
+    const auto result = source->AddCustomPresetFromArguments("Small HEVC", asked);
+    ASSERT_TRUE(result.ok) << result.message;
+    EXPECT_TRUE(result.notMapped.empty());
+    EXPECT_EQ(result.group, "MP4");
+    EXPECT_EQ(result.title, "Small HEVC");
+    ASSERT_EQ(Listed(*source), std::vector<std::string>{"MP4/Small HEVC"});
+    const auto group = source->GetCustomList()->FindChild("MP4");
+    EXPECT_EQ(group->Description(), FormatNode(catalogue, "Video", "MP4")->Description());
+    const std::string line = Arguments(*source).at(0);
+    for (const char* part : {"-c:v libx265 ", "-crf 28 ", "-c:a aac ", "-b:a 128k ", "-f mp4"})
+        EXPECT_NE(line.find(part), std::string::npos) << part << " in " << line;
+}
+
+TEST_F(LMCustomPresetFilesTest, FromArgumentsReportsWhatDidNotMapAndRefusesATakenName) {
+    auto result = source->AddCustomPresetFromArguments(
+        "Slow", {"-c:v", "libx264", "-preset", "slow", "-f", "matroska"});
+    ASSERT_TRUE(result.ok) << result.message;
+    EXPECT_EQ(result.group, "MKV");
+    EXPECT_EQ(result.notMapped, std::vector<std::string>{"-preset slow"});
+    const std::string before = StoredText(*source);
+    result = source->AddCustomPresetFromArguments("Slow", {"-c:v", "libx264", "-f", "matroska"});
+    EXPECT_FALSE(result.ok);
+    EXPECT_NE(result.message.find("already has a preset named \"Slow\""), std::string::npos)
+        << result.message;
+    EXPECT_EQ(StoredText(*source), before);
+}
