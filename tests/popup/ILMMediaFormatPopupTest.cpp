@@ -7,11 +7,13 @@
 #include "LMFormatCollectionView.h"
 #include "LMFormatSelectionWndCtrl.h"
 #include "LMFormatSelectionWndCtrl_p.h"
+#include "LMPresetManagerWndCtrl.h"
 #include "LMTabHeaderView.h"
 #include "LMUiTestSupport.h"
 
 #include <QApplication>
 #include <QTest>
+#include <QTreeWidget>
 
 #include <gtest/gtest.h>
 
@@ -109,4 +111,21 @@ TEST_F(ILMMediaFormatPopupTest, TheCompletionReceivesTheChosenPresetAndNodeOnce)
     ASSERT_NE(node, nullptr);
     EXPECT_EQ(QString::fromStdString(chosen->Title()),
               list->model()->index(1, 0).data().toString());
+}
+
+TEST_F(ILMMediaFormatPopupTest, PopupManagerShowsTheManagerWindowWithTheCustomPresets) {
+    const auto node = ILMFormatNode::MallocFormatNode("MP4", "MP4 file format", 100);
+    ILMFmtPresetDataSource::Shared()->AddCustomPreset(
+        ILMFormatPreset::MallocFormatPreset("mp4", "Mine"), node);
+    ILMMediaFormatPopup::Shared()->PopupManager();
+    LMPresetManagerWndCtrl* manager = LMPresetManagerWndCtrl::shared();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(manager));
+    const auto* tree = manager->findChild<QTreeWidget*>(QStringLiteral("treePresets"));
+    ASSERT_TRUE(tree);
+    ASSERT_EQ(tree->topLevelItemCount(), 1);
+    EXPECT_EQ(tree->topLevelItem(0)->child(0)->text(0), QStringLiteral("Mine"));
+    // A second call raises the same window.
+    ILMMediaFormatPopup::Shared()->PopupManager();
+    EXPECT_EQ(LMPresetManagerWndCtrl::shared(), manager);
+    manager->close();
 }
