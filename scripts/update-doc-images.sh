@@ -4,6 +4,6 @@
 # (`make demo` on a machine without a display writes them to <build>/screenshots/).
 set -euo pipefail
 build=${1:-build}
-for shot in 02-category-hover 03-search 03-search-keyboard 04-recent 05-custom 06-french 08-editor 09-name-prompt 13-converted; do
+for shot in 02-category-hover 03-search 03-search-keyboard 04-recent 05-custom 06-french 08-editor 09-name-prompt 13-converted 16-preset-manager; do
     cp "$build/screenshots/$shot.png" "docs/images/$shot.png"
 done
