@@ -7,6 +7,7 @@
 #include "LMFFmpegArguments.h"
 #include "LMFmtPresetDataSource.h"
 #include "LMPresetFile.h"
+#include "LMStoredListTestSupport.h"
 #include "LMTestEnvironment.h"
 
 #include <QFile>
@@ -41,18 +42,6 @@ std::shared_ptr<const ILMFormatNode> FormatNode(const std::shared_ptr<ILMFormatN
     return node ? node->FindChild(format) : nullptr;
 }
 
-// "GROUP/TITLE" of every custom preset, in list order.
-std::vector<std::string> Listed(const ILMFmtPresetDataSource& source) {
-    std::vector<std::string> names;
-    const auto root = source.GetCustomList();
-    for (int i = 0; i < root->ChildCount(); ++i) {
-        const auto group = root->ChildAt(i);
-        for (int j = 0; j < group->FormatPresetCount(); ++j)
-            names.push_back(group->Title() + "/" + group->FormatPresetAt(j)->Title());
-    }
-    return names;
-}
-
 // The FFmpeg output options of every custom preset, in list order.
 std::vector<std::string> Arguments(const ILMFmtPresetDataSource& source) {
     std::vector<std::string> lines;
@@ -71,14 +60,11 @@ std::string StoredText(const ILMFmtPresetDataSource& source) {
 }
 
 QByteArray ReadAll(const std::string& path) {
-    QFile file(QString::fromStdString(path));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return ReadFile(QString::fromStdString(path));
 }
 
 void Write(const std::string& path, const QByteArray& text) {
-    QFile file(QString::fromStdString(path));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_EQ(file.write(text), text.size());
+    WriteFile(QString::fromStdString(path), text);
 }
 
 // One entry of a preset file: an MP4 preset of that title in group "MP4".
@@ -86,6 +72,13 @@ QJsonObject Mp4Entry(const QString& title) {
     return QJsonObject{{u"title"_s, title},
                        {u"format"_s, u"mp4"_s},
                        {u"group"_s, QJsonObject{{u"title"_s, u"MP4"_s}, {u"faceId"_s, 100}}}};
+}
+
+// An MKV preset of that title, filed in a file under the group "MP4".
+QJsonObject MkvUnderMp4(const QString& title) {
+    return QJsonObject{{u"title"_s, title},
+                       {u"format"_s, u"mkv"_s},
+                       {u"group"_s, QJsonObject{{u"title"_s, u"MP4"_s}}}};
 }
 
 QByteArray FileOf(const QJsonArray& presets, int version = 1) {
@@ -141,7 +134,7 @@ TEST_F(LMCustomPresetFilesTest, PresetsExportedFromOneStoreImportIntoAFreshOneAl
     const auto mp4 = source->GetCustomList()->FindChild("MP4");
     const auto phone = mp4->FindFormatPreset("Phone");
     ILMFormatPreset::ChangeCodecKeepingChoices(*phone, true, phone->AudioCodecCount() - 1);
-    const auto names = Listed(*source);
+    const auto names = CustomEntries(*source);
     const auto arguments = Arguments(*source);
 
     const auto exported = source->ExportCustomPresets(PathOf("mine.json"), {});
@@ -150,11 +143,11 @@ TEST_F(LMCustomPresetFilesTest, PresetsExportedFromOneStoreImportIntoAFreshOneAl
 
     const IsolatedSettings otherMachine;
     auto fresh = std::make_shared<LMFmtPresetDataSource>();
-    ASSERT_TRUE(Listed(*fresh).empty());
+    ASSERT_TRUE(CustomEntries(*fresh).empty());
     const auto imported = fresh->ImportCustomPresets(PathOf("mine.json"), Clash::Rename);
     ASSERT_TRUE(imported.ok) << imported.message;
     EXPECT_EQ(imported.added, 4);
-    EXPECT_EQ(Listed(*fresh), names);
+    EXPECT_EQ(CustomEntries(*fresh), names);
     EXPECT_EQ(Arguments(*fresh), arguments);
     EXPECT_EQ(StoredText(*fresh), StoredText(*source));
 
@@ -163,7 +156,7 @@ TEST_F(LMCustomPresetFilesTest, PresetsExportedFromOneStoreImportIntoAFreshOneAl
     ASSERT_TRUE(fresh->LastSaveSucceeded());
     ILMAppSettings::UseSettingsFile(otherMachine.FilePath());
     const auto restarted = std::make_shared<LMFmtPresetDataSource>();
-    EXPECT_EQ(Listed(*restarted), names);
+    EXPECT_EQ(CustomEntries(*restarted), names);
     EXPECT_EQ(Arguments(*restarted), arguments);
 }
 
@@ -205,17 +198,14 @@ TEST_F(LMCustomPresetFilesTest, ImportClashRenameFilesTheNextFreeNumber) {
     ASSERT_TRUE(result.ok) << result.message;
     EXPECT_EQ(result.added, 1);
     EXPECT_EQ(result.renamed, 1);
-    EXPECT_EQ(Listed(*source),
+    EXPECT_EQ(CustomEntries(*source),
               (std::vector<std::string>{"MP4/Mine", "MP4/Mine (2)", "MP4/Mine (3)", "MP4/Other"}));
 }
 
 TEST_F(LMCustomPresetFilesTest, ImportClashSkipLeavesTheListedPresetAlone) {
     AddMp4("Mine");
     const std::string before = StoredText(*source);
-    Write(PathOf("in.json"),
-          FileOf({QJsonObject{{u"title"_s, u"Mine"_s},
-                              {u"format"_s, u"mkv"_s},
-                              {u"group"_s, QJsonObject{{u"title"_s, u"MP4"_s}}}}}));
+    Write(PathOf("in.json"), FileOf({MkvUnderMp4(u"Mine"_s)}));
     const auto result = source->ImportCustomPresets(PathOf("in.json"), Clash::Skip);
     ASSERT_TRUE(result.ok) << result.message;
     EXPECT_EQ(result.skipped, 1);
@@ -227,14 +217,12 @@ TEST_F(LMCustomPresetFilesTest, ImportClashReplaceGivesTheListedPresetTheSetting
     AddMp4("First");
     AddMp4("Mine");
     AddMp4("Last");
-    Write(PathOf("in.json"),
-          FileOf({QJsonObject{{u"title"_s, u"Mine"_s},
-                              {u"format"_s, u"mkv"_s},
-                              {u"group"_s, QJsonObject{{u"title"_s, u"MP4"_s}}}}}));
+    Write(PathOf("in.json"), FileOf({MkvUnderMp4(u"Mine"_s)}));
     const auto result = source->ImportCustomPresets(PathOf("in.json"), Clash::Replace);
     ASSERT_TRUE(result.ok) << result.message;
     EXPECT_EQ(result.replaced, 1);
-    EXPECT_EQ(Listed(*source), (std::vector<std::string>{"MP4/First", "MP4/Mine", "MP4/Last"}));
+    EXPECT_EQ(CustomEntries(*source),
+              (std::vector<std::string>{"MP4/First", "MP4/Mine", "MP4/Last"}));
     EXPECT_EQ(source->GetCustomList()->FindChild("MP4")->FindFormatPreset("Mine")->FormatId(),
               "mkv");
 }
@@ -278,7 +266,8 @@ TEST_F(LMCustomPresetFilesTest, RenameGivesTheNewTitleAndKeepsThePlace) {
     AddFromCatalogue("Audio", "FLAC", "Lossless", "Three");
     std::string error;
     ASSERT_TRUE(source->RenameCustomPreset("MP4", "One", "Three", &error)) << error;
-    EXPECT_EQ(Listed(*source), (std::vector<std::string>{"MP4/Three", "MP4/Two", "FLAC/Three"}));
+    EXPECT_EQ(CustomEntries(*source),
+              (std::vector<std::string>{"MP4/Three", "MP4/Two", "FLAC/Three"}));
 }
 
 TEST_F(LMCustomPresetFilesTest, DuplicateFilesANumberedCopyRightAfterTheOriginal) {
@@ -286,7 +275,7 @@ TEST_F(LMCustomPresetFilesTest, DuplicateFilesANumberedCopyRightAfterTheOriginal
     AddMp4("Two");
     EXPECT_EQ(source->DuplicateCustomPreset("MP4", "One"), "One (2)");
     EXPECT_EQ(source->DuplicateCustomPreset("MP4", "One"), "One (3)");
-    EXPECT_EQ(Listed(*source),
+    EXPECT_EQ(CustomEntries(*source),
               (std::vector<std::string>{"MP4/One", "MP4/One (3)", "MP4/One (2)", "MP4/Two"}));
     const auto group = source->GetCustomList()->FindChild("MP4");
     EXPECT_TRUE(ILMFormatPreset::HaveSameSettings(*group->FindFormatPreset("One"),
@@ -302,14 +291,14 @@ TEST_F(LMCustomPresetFilesTest, MoveChangesTheOrderWithinTheGroupAndStopsAtItsEn
     EXPECT_FALSE(source->MoveCustomPreset("MP4", "C", Direction::Down));
     EXPECT_FALSE(source->MoveCustomPreset("MP4", "Missing", Direction::Down));
     EXPECT_TRUE(source->MoveCustomPreset("MP4", "A", Direction::Down));
-    EXPECT_EQ(Listed(*source), (std::vector<std::string>{"MP4/B", "MP4/A", "MP4/C"}));
+    EXPECT_EQ(CustomEntries(*source), (std::vector<std::string>{"MP4/B", "MP4/A", "MP4/C"}));
     EXPECT_TRUE(source->MoveCustomPreset("MP4", "C", Direction::Up));
-    EXPECT_EQ(Listed(*source), (std::vector<std::string>{"MP4/B", "MP4/C", "MP4/A"}));
+    EXPECT_EQ(CustomEntries(*source), (std::vector<std::string>{"MP4/B", "MP4/C", "MP4/A"}));
 
     // The order is what is saved.
     source->SaveCustomList();
     const auto restarted = std::make_shared<LMFmtPresetDataSource>();
-    EXPECT_EQ(Listed(*restarted), (std::vector<std::string>{"MP4/B", "MP4/C", "MP4/A"}));
+    EXPECT_EQ(CustomEntries(*restarted), (std::vector<std::string>{"MP4/B", "MP4/C", "MP4/A"}));
 }
 
 // =================================================================================
@@ -336,7 +325,7 @@ TEST_F(LMCustomPresetFilesTest, ANewerFileImportsWhatItUnderstandsAndExportsItsU
     ASSERT_TRUE(result.ok) << result.message;
     EXPECT_EQ(result.added, 1);
     EXPECT_EQ(result.unreadable, 1);
-    EXPECT_EQ(Listed(*source), std::vector<std::string>{"MP4/Known"});
+    EXPECT_EQ(CustomEntries(*source), std::vector<std::string>{"MP4/Known"});
 
     // Kept through a save and a new start, the unknown fields of the entry, its
     // group and its stream come back out in the next export as they were.
@@ -404,7 +393,7 @@ TEST_F(LMCustomPresetFilesTest, AFileWithNoPresetsImportsNothing) {
     Write(PathOf("empty.json"), FileOf({}));
     const auto result = source->ImportCustomPresets(PathOf("empty.json"), Clash::Rename);
     EXPECT_TRUE(result.ok) << result.message;
-    EXPECT_TRUE(Listed(*source).empty());
+    EXPECT_TRUE(CustomEntries(*source).empty());
 }
 
 // =================================================================================
@@ -419,7 +408,7 @@ TEST_F(LMCustomPresetFilesTest, FromArgumentsFilesThePresetUnderTheFormatNodeOfI
     EXPECT_TRUE(result.notMapped.empty());
     EXPECT_EQ(result.group, "MP4");
     EXPECT_EQ(result.title, "Small HEVC");
-    ASSERT_EQ(Listed(*source), std::vector<std::string>{"MP4/Small HEVC"});
+    ASSERT_EQ(CustomEntries(*source), std::vector<std::string>{"MP4/Small HEVC"});
     const auto group = source->GetCustomList()->FindChild("MP4");
     EXPECT_EQ(group->Description(), FormatNode(catalogue, "Video", "MP4")->Description());
     const std::string line = Arguments(*source).at(0);
