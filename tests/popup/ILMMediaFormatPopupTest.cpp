@@ -129,3 +129,35 @@ TEST_F(ILMMediaFormatPopupTest, PopupManagerShowsTheManagerWindowWithTheCustomPr
     EXPECT_EQ(LMPresetManagerWndCtrl::shared(), manager);
     manager->close();
 }
+
+TEST_F(ILMMediaFormatPopupTest, TheCustomTabShowsWhatTheManagerChangedAtTheNextShowing) {
+    const auto node = ILMFormatNode::MallocFormatNode("MP4", "MP4 file format", 100);
+    auto source = ILMFmtPresetDataSource::Shared();
+    source->AddCustomPreset(ILMFormatPreset::MallocFormatPreset("mp4", "First"), node);
+    source->AddCustomPreset(ILMFormatPreset::MallocFormatPreset("mp4", "Second"), node);
+    SetupThroughFacade();
+    const auto rows = [] {
+        QStringList texts;
+        const QAbstractItemModel* model = Window()->customFmtViewCtrl()->fmtListView()->model();
+        for (int row = 0; row < model->rowCount(); ++row)
+            texts << model->index(row, 0).data().toString();
+        return texts;
+    };
+    auto* ctrl = LMFormatSelectionWndCtrl::shared();
+    ILMMediaFormatPopup::Shared()->PopupSelection(ILMMediaFormatPopup::Rect{100, 100, 50, 20}, {});
+    ASSERT_EQ(rows(), (QStringList{QStringLiteral("First"), QStringLiteral("Second")}));
+    ctrl->windowDidResignKey();
+
+    // What the manager's buttons do: a rename, a move, a duplicate, each saved.
+    ASSERT_TRUE(source->RenameCustomPreset("MP4", "First", "Renamed", nullptr));
+    ASSERT_TRUE(
+        source->MoveCustomPreset("MP4", "Second", ILMFmtPresetDataSource::MoveDirection::Up));
+    ASSERT_EQ(source->DuplicateCustomPreset("MP4", "Renamed"), "Renamed (2)");
+    source->SaveCustomList();
+    ILMMediaFormatPopup::Shared()->PopupSelection(ILMMediaFormatPopup::Rect{100, 100, 50, 20}, {});
+    const QStringList after = rows();
+    EXPECT_EQ(after, (QStringList{QStringLiteral("Second"), QStringLiteral("Renamed"),
+                                  QStringLiteral("Renamed (2)")}))
+        << after.join(QLatin1Char('|')).toStdString();
+    ctrl->windowDidResignKey();
+}
