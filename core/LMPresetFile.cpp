@@ -88,8 +88,12 @@ bool LMPresetFile::Read(const std::string& path, std::string* error) {
     const QFileInfo info(name);
     // The size is looked at before anything is read: a huge file (or one that
     // only claims to be, a sparse one) costs nothing.
-    if (!info.exists() || !info.isFile()) {
+    if (!info.exists()) {
         *error = "there is no file " + path;
+        return false;
+    }
+    if (!info.isFile()) {
+        *error = path + " is not a preset file: it is not a plain file";
         return false;
     }
     if (info.size() > MaxFileSize) {

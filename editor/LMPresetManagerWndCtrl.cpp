@@ -211,21 +211,21 @@ void LMPresetManagerWndCtrl::itemRenamed(QTreeWidgetItem* item) {
     const std::string newTitle = item->text(0).toStdString();
     if (newTitle == title)
         return;
+    // The reasons a name is refused, said in the window's language; an empty
+    // name is taken back without a word, as an edit left empty is.
+    const std::string group = Private::groupOf(item);
+    const auto node = std::as_const(*d->source).GetCustomList()->FindChild(group);
+    QString refusal;
+    if (node && node->FindFormatPreset(newTitle))
+        refusal = d->text("Another preset of this format already has this name.");
+    else if (!ILMFormatNode::IsAcceptableText(newTitle))
+        refusal = d->text("Names are limited to %1 characters.").arg(ILMFormatNode::MaxTextLength);
     std::string error;
-    if (!d->source->RenameCustomPreset(Private::groupOf(item), title, newTitle, &error)) {
-        // The name stays what it was; say why, in the window's language where a
-        // reason has words of its own.
+    if (!refusal.isEmpty() || newTitle.empty() ||
+        !d->source->RenameCustomPreset(group, title, newTitle, &error)) {
         const QSignalBlocker blocker(d->ui.treePresets);
         item->setText(0, FromStd(title));
-        const bool taken = error.find("already has a preset named") != std::string::npos;
-        if (taken)
-            d->ui.lblStatus->setText(
-                d->text("Another preset of this format already has this name."));
-        else if (!ILMFormatNode::IsAcceptableText(newTitle))
-            d->ui.lblStatus->setText(
-                d->text("Names are limited to %1 characters.").arg(ILMFormatNode::MaxTextLength));
-        else
-            d->ui.lblStatus->setText(FromStd(error));
+        d->ui.lblStatus->setText(refusal.isEmpty() ? FromStd(error) : refusal);
         return;
     }
     d->source->SaveCustomList();

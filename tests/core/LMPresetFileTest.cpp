@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "LMPresetFile.h"
 #include "LMCoreTestSupport.h"
+#include "LMPresetNames.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -117,4 +118,28 @@ TEST(LMPresetFileTest, AnEntryWithoutAGroupTitleIsDamage) {
         << error;
     EXPECT_EQ(file.UnreadableCount(), 1);
     EXPECT_TRUE(file.Entries().empty());
+}
+
+TEST(LMPresetNamesTest, AFreeTitleIsNumberedFromTwoAndFitsTheLimit) {
+    const auto group = MakeNode("MP4");
+    EXPECT_EQ(LMPresetNames::FreeTitle(group, "Mine"), "Mine");
+    group->AddFormatPreset(MakePreset("mp4", "Mine"));
+    group->AddFormatPreset(MakePreset("mp4", "Mine (2)"));
+    EXPECT_EQ(LMPresetNames::FreeTitle(group, "Mine"), "Mine (3)");
+    // A title at the limit is cut to make room for the number, never within a
+    // character, and the name given is what a preset keeps.
+    // "a" and then characters of two UTF-16 units each: the cut falls inside one.
+    std::string longest = "a";
+    for (int i = 0; i < ILMFormatNode::MaxTextLength / 2 - 1; ++i)
+        longest += "\xF0\x9F\x8E\xAC";
+    ASSERT_TRUE(ILMFormatNode::IsAcceptableText(longest));
+    group->AddFormatPreset(MakePreset("mp4", longest));
+    const std::string free = LMPresetNames::FreeTitle(group, longest);
+    EXPECT_TRUE(ILMFormatNode::IsAcceptableText(free));
+    EXPECT_EQ(free.substr(free.size() - 4), " (2)");
+    EXPECT_EQ(free.substr(0, free.size() - 4), longest.substr(0, free.size() - 4));
+    EXPECT_EQ(QString::fromStdString(free).size(), ILMFormatNode::MaxTextLength - 1);
+    auto copy = MakePreset("mp4", "x");
+    copy->SetTitle(free);
+    EXPECT_EQ(copy->Title(), free);
 }
