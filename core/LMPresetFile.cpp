@@ -128,9 +128,14 @@ bool LMPresetFile::ReadText(const QByteArray& text, std::string* error) {
     QJsonParseError parseError;
     const QJsonDocument document = QJsonDocument::fromJson(text, &parseError);
     if (parseError.error != QJsonParseError::NoError) {
+        // Text that stops inside a value is what a copy cut short looks like.
+        const bool cutShort = parseError.error == QJsonParseError::UnterminatedObject ||
+                              parseError.error == QJsonParseError::UnterminatedArray ||
+                              parseError.error == QJsonParseError::UnterminatedString ||
+                              parseError.offset >= text.size();
         *error = "is not a preset file: it is not valid JSON (" +
                  parseError.errorString().toStdString() + " at byte " +
-                 std::to_string(parseError.offset) + "; a file cut short ends like this)";
+                 std::to_string(parseError.offset) + (cutShort ? "; it may be cut short)" : ")");
         return false;
     }
     if (!document.isObject()) {

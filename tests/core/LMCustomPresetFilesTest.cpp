@@ -354,6 +354,9 @@ TEST_F(LMCustomPresetFilesTest, BadFilesSayWhyAndChangeNothing) {
                                     {u"presets"_s, QJsonArray{Mp4Entry(u"New"_s)}}})
               .toJson());
     Write(PathOf("truncated.json"), good.left(good.size() - 20));
+    Write(PathOf("deep.json"), R"({"format": "lmformat-presets", "version": 1, "x": )" +
+                                   QByteArray(100000, '[') + QByteArray(100000, ']') +
+                                   R"(, "presets": []})");
     Write(PathOf("no-version.json"),
           QJsonDocument(QJsonObject{{u"format"_s, u"lmformat-presets"_s},
                                     {u"presets"_s, QJsonArray{Mp4Entry(u"New"_s)}}})
@@ -371,7 +374,8 @@ TEST_F(LMCustomPresetFilesTest, BadFilesSayWhyAndChangeNothing) {
     const std::pair<const char*, const char*> cases[] = {
         {"not-json.json", "not valid JSON"},
         {"wrong-format.json", "\"something-else\", not \"lmformat-presets\""},
-        {"truncated.json", "not valid JSON"},
+        {"truncated.json", "it may be cut short"},
+        {"deep.json", "too deeply nested"},
         {"no-version.json", "\"version\""},
         {"damaged-entry.json", "entry 2 (\"Bad\")"},
         {"huge.json", "100 MB"},
