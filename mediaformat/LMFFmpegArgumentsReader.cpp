@@ -5,7 +5,10 @@
 #include "LMFormatRegistry.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstdlib>
 #include <map>
+#include <optional>
 #include <set>
 
 namespace Lumeran {
@@ -80,24 +83,91 @@ std::vector<Unit> OutputUnits(const std::vector<Unit>& units) {
     return out;
 }
 
+// A value as a number to measure nearness by: "128k" and "2M" in units,
+// "30000/1001" as the fraction, "1280x720" as its pixels; nullopt for others.
+std::optional<double> NumberOf(const std::string& value) {
+    const auto size = value.find('x');
+    if (size != std::string::npos) {
+        const auto width = NumberOf(value.substr(0, size));
+        const auto height = NumberOf(value.substr(size + 1));
+        return width && height ? std::optional<double>(*width * *height) : std::nullopt;
+    }
+    const auto slash = value.find('/');
+    if (slash != std::string::npos) {
+        const auto top = NumberOf(value.substr(0, slash));
+        const auto bottom = NumberOf(value.substr(slash + 1));
+        return top && bottom && *bottom != 0 ? std::optional<double>(*top / *bottom) : std::nullopt;
+    }
+    char* end = nullptr;
+    const double number = std::strtod(value.c_str(), &end);
+    if (end == value.c_str())
+        return std::nullopt;
+    const std::string suffix(end);
+    if (suffix.empty())
+        return number;
+    if (suffix == "k" || suffix == "K")
+        return number * 1e3;
+    if (suffix == "M")
+        return number * 1e6;
+    return std::nullopt;
+}
+
 struct Score {
     int mapped = -1;
+    // Asked options the preset gives with another value, and how far those
+    // values are apart (relative to the larger; 0 for values that are not
+    // numbers): an option given near what was asked beats one left out.
+    int near = 0;
+    double distance = 0;
     int extra = 0;
     bool operator>(const Score& other) const {
-        return mapped != other.mapped ? mapped > other.mapped : extra < other.extra;
+        if (mapped != other.mapped)
+            return mapped > other.mapped;
+        if (near != other.near)
+            return near > other.near;
+        if (extra != other.extra)
+            return extra < other.extra;
+        return distance < other.distance;
     }
 };
+
+double Distance(const Unit& asked, const Unit& given) {
+    const auto wanted = NumberOf(asked.value);
+    const auto value = NumberOf(given.value);
+    if (!wanted || !value)
+        return 0;
+    const double scale = std::max({std::abs(*wanted), std::abs(*value), 1.0});
+    return std::abs(*wanted - *value) / scale;
+}
 
 Score ScoreOf(const std::shared_ptr<const ILMFormatPreset>& preset,
               const std::vector<Unit>& asked) {
     std::vector<Unit> given = Parse(LMFFmpegArguments::OutputOptions(preset)).units;
-    Score score{0, 0};
+    Score score{0, 0, 0, 0};
+    std::vector<const Unit*> missed;
     for (const Unit& unit : asked) {
         const auto found = std::find(given.begin(), given.end(), unit);
         if (found != given.end()) {
             ++score.mapped;
             given.erase(found);
+        } else {
+            missed.push_back(&unit);
         }
+    }
+    // Each option asked for and not given exactly takes the nearest option of
+    // its flag the preset gives, if any.
+    for (const Unit* unit : missed) {
+        auto nearest = given.end();
+        for (auto it = given.begin(); it != given.end(); ++it) {
+            if (it->flag == unit->flag &&
+                (nearest == given.end() || Distance(*unit, *it) < Distance(*unit, *nearest)))
+                nearest = it;
+        }
+        if (nearest == given.end())
+            continue;
+        ++score.near;
+        score.distance += Distance(*unit, *nearest);
+        given.erase(nearest);
     }
     score.extra = static_cast<int>(given.size());
     return score;

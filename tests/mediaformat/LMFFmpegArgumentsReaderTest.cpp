@@ -87,6 +87,16 @@ TEST(LMFFmpegArgumentsReaderTest, AValueTheRegistryDoesNotOfferIsReported) {
         {"-c:v", "libx264", "-crf", "27", "-s", "1280x720", "-f", "mp4"});
     EXPECT_EQ(result.notMapped, Words{"-crf 27"});
     EXPECT_EQ(result.preset->CurrentVideoCodec()->CurrentResolution()->Width(), 1280);
+    // The nearest the registry offers (20, 23, 28 and 16).
+    EXPECT_EQ(result.preset->CurrentVideoCodec()->CurrentQuality()->Value(), "28");
+}
+
+TEST(LMFFmpegArgumentsReaderTest, AnUnofferedBitrateOrSizeTakesTheNearestOffered) {
+    const auto result = LMFFmpegArgumentsReader::PresetFromArguments(
+        {"-c:v", "libx264", "-s", "1900x1000", "-c:a", "aac", "-b:a", "150k", "-f", "mp4"});
+    EXPECT_EQ(result.notMapped, (Words{"-s 1900x1000", "-b:a 150k"}));
+    EXPECT_EQ(result.preset->CurrentAudioCodec()->CurrentQuality()->Value(), "128k");
+    EXPECT_EQ(result.preset->CurrentVideoCodec()->CurrentResolution()->Width(), 1920);
 }
 
 TEST(LMFFmpegArgumentsReaderTest, TheOutputFileNamesTheContainerAndTheInputIsPassedOver) {
