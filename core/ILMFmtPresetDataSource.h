@@ -6,7 +6,10 @@
 #include "ILMFormatNode.h"
 #include "ILMFormatPreset.h"
 #include "LMCoreExport.h"
+#include "LMCustomPresetRef.h"
+#include "LMPresetArgumentsResult.h"
 #include "LMPresetBackup.h"
+#include "LMPresetFileResult.h"
 
 #include <functional>
 #include <memory>
@@ -109,6 +112,50 @@ public:
     // in memory; the caller saves it, as after any change. False when the backup
     // holds nothing readable.
     virtual bool RestoreBackup(StoredList list, int index) = 0;
+
+    // ---- The user's own presets: files, names and order ----
+    // (After the operations above, whose order hosts built against rely on.)
+    // Like every change to the custom list, the ones below are saved by the
+    // caller's SaveCustomList().
+    //
+    // What an import does with a preset whose title its group already has:
+    // files it as "TITLE (2)" (or the next free number), leaves it out, or gives
+    // the listed preset its settings.
+    enum class ImportClash { Rename, Skip, Replace };
+    enum class MoveDirection { Up, Down };
+    // Writes the custom presets named by presets, in that order, or all of them
+    // in list order when presets is empty, to a preset file at path (see
+    // docs/data-source.md). Fails, writing nothing, when one of them is not listed.
+    virtual LMPresetFileResult
+    ExportCustomPresets(const std::string& path,
+                        const std::vector<LMCustomPresetRef>& presets) const = 0;
+    // Adds the presets of the preset file at path to the custom list, each to the
+    // group of its own group's title (made when missing). The whole file is read
+    // and checked first: a file that is not a preset file, is damaged or is too
+    // large fails with the reason and changes nothing.
+    virtual LMPresetFileResult ImportCustomPresets(const std::string& path, ImportClash clash) = 0;
+    // Gives preset title of group a new title. Refuses (false, with the reason in
+    // *error when given) an empty or too long title, one that another preset of
+    // the group has, and a preset that is not listed.
+    virtual bool RenameCustomPreset(const std::string& group, const std::string& title,
+                                    const std::string& newTitle, std::string* error) = 0;
+    // Files a copy of preset title of group right after it, as "TITLE (2)" or
+    // the next free number. The copy's title; empty when the preset is not listed.
+    virtual std::string DuplicateCustomPreset(const std::string& group,
+                                              const std::string& title) = 0;
+    // Moves preset title one place up or down within its group. False when it is
+    // not listed or already first (up) or last (down).
+    virtual bool MoveCustomPreset(const std::string& group, const std::string& title,
+                                  MoveDirection direction) = 0;
+    // Files, as a custom preset named name, the preset whose FFmpeg output options
+    // come nearest to arguments (an FFmpeg command line cut into words, as a shell
+    // cuts it), under the format node of the external tree (or, before it is
+    // loaded, of the built-in catalogue) that holds presets of its container.
+    // Says which arguments the preset does not give. Refuses an empty or too long
+    // name, and one the group already has.
+    virtual LMPresetArgumentsResult
+    AddCustomPresetFromArguments(const std::string& name,
+                                 const std::vector<std::string>& arguments) = 0;
 
 protected:
     ILMFmtPresetDataSource() = default;

@@ -6,6 +6,8 @@
 #include "ILMLogConfig.h"
 #include "ILMStringHelper.h"
 #include "LMCatalogueLoadHook_p.h"
+#include "LMCustomListChanges.h"
+#include "LMDefaultCatalogue.h"
 #include "LMFormatReadOptions.h"
 #include "LMLoaderExitGuard.h"
 #include "LMShownText.h"
@@ -370,13 +372,7 @@ void LMFmtPresetDataSource::AddCustomPreset(std::shared_ptr<const ILMFormatPrese
                                             std::shared_ptr<const ILMFormatNode> node) {
     if (!preset || !node)
         return;
-    auto child = m_customRoot->FindChild(node->Title());
-    if (!child) {
-        child = node->Clone(ILMFormatNode::CloneAttributes);
-        m_customRoot->AddChild(child);
-        child->SetParent(m_customRoot);
-    }
-    child->AddFormatPreset(preset->Clone());
+    LMCustomListChanges::File(m_customRoot, node, preset);
 }
 
 bool LMFmtPresetDataSource::RemoveCustomPreset(std::shared_ptr<const ILMFormatPreset> preset,
@@ -400,6 +396,43 @@ bool LMFmtPresetDataSource::RemoveCustomPreset(std::shared_ptr<const ILMFormatPr
 
 void LMFmtPresetDataSource::SaveCustomList() const {
     SaveWithRetry(GetCustomNodeKey());
+}
+
+LMPresetFileResult
+LMFmtPresetDataSource::ExportCustomPresets(const std::string& path,
+                                           const std::vector<LMCustomPresetRef>& presets) const {
+    return LMCustomListChanges::Export(m_customRoot, path, presets);
+}
+
+LMPresetFileResult LMFmtPresetDataSource::ImportCustomPresets(const std::string& path,
+                                                              ImportClash clash) {
+    return LMCustomListChanges::Import(m_customRoot, path, clash);
+}
+
+bool LMFmtPresetDataSource::RenameCustomPreset(const std::string& group, const std::string& title,
+                                               const std::string& newTitle, std::string* error) {
+    return LMCustomListChanges::Rename(m_customRoot, {group, title}, newTitle, error);
+}
+
+std::string LMFmtPresetDataSource::DuplicateCustomPreset(const std::string& group,
+                                                         const std::string& title) {
+    return LMCustomListChanges::Duplicate(m_customRoot, {group, title});
+}
+
+bool LMFmtPresetDataSource::MoveCustomPreset(const std::string& group, const std::string& title,
+                                             MoveDirection direction) {
+    return LMCustomListChanges::Move(m_customRoot, {group, title}, direction);
+}
+
+LMPresetArgumentsResult
+LMFmtPresetDataSource::AddCustomPresetFromArguments(const std::string& name,
+                                                    const std::vector<std::string>& arguments) {
+    auto catalogue = GetExternalFormatPresets();
+    if (!catalogue) {
+        const auto json = ILMJsonReader::ReadJsonFile(LMDefaultCatalogue::Path(), nullptr);
+        catalogue = json ? ILMFormatNode::MallocFormatNode(json) : nullptr;
+    }
+    return LMCustomListChanges::FromArguments(m_customRoot, catalogue, name, arguments);
 }
 
 // ---- Search ----------------------------------------------------------------------

@@ -58,6 +58,18 @@ public:
     void SetSaveFailureHandler(std::function<void(const std::string& message)> handler) override;
     std::vector<LMPresetBackup> GetBackups(StoredList list) const override;
     bool RestoreBackup(StoredList list, int index) override;
+    LMPresetFileResult
+    ExportCustomPresets(const std::string& path,
+                        const std::vector<LMCustomPresetRef>& presets) const override;
+    LMPresetFileResult ImportCustomPresets(const std::string& path, ImportClash clash) override;
+    bool RenameCustomPreset(const std::string& group, const std::string& title,
+                            const std::string& newTitle, std::string* error) override;
+    std::string DuplicateCustomPreset(const std::string& group, const std::string& title) override;
+    bool MoveCustomPreset(const std::string& group, const std::string& title,
+                          MoveDirection direction) override;
+    LMPresetArgumentsResult
+    AddCustomPresetFromArguments(const std::string& name,
+                                 const std::vector<std::string>& arguments) override;
 
     // The "Recent" tree behind the recent list (oldest child first), as it will
     // be saved; for inspection by tools and tests.

@@ -80,7 +80,7 @@ public:
     // Keys that are looked up but not bound: the titles and descriptions of the
     // default catalogue and of the lists the data source makes, the option names
     // of the preset editor, and the words of the popup and the editor.
-    static constexpr std::array<const char*, 58> otherKeys{
+    static constexpr std::array<const char*, 78> otherKeys{
         // Titles and descriptions of the default catalogue.
         QT_TRANSLATE_NOOP("Localizable", "Smartphone"),
         QT_TRANSLATE_NOOP("Localizable", "Tablet"),
@@ -149,6 +149,27 @@ public:
         QT_TRANSLATE_NOOP("Localizable", "≈ %1 per 10 minutes"),
         QT_TRANSLATE_NOOP("Localizable", "%1 per 10 minutes"),
         QT_TRANSLATE_NOOP("Localizable", "Size not known for an automatic codec"),
+        // Words of the preset manager.
+        QT_TRANSLATE_NOOP("Localizable", "Manage Presets"),
+        QT_TRANSLATE_NOOP("Localizable", "Manage Presets…"),
+        QT_TRANSLATE_NOOP("Localizable", "Your custom presets, by format"),
+        QT_TRANSLATE_NOOP("Localizable", "Rename"),
+        QT_TRANSLATE_NOOP("Localizable", "Duplicate"),
+        QT_TRANSLATE_NOOP("Localizable", "Move Up"),
+        QT_TRANSLATE_NOOP("Localizable", "Move Down"),
+        QT_TRANSLATE_NOOP("Localizable", "Import…"),
+        QT_TRANSLATE_NOOP("Localizable", "Export…"),
+        QT_TRANSLATE_NOOP("Localizable", "Names already in use on import:"),
+        QT_TRANSLATE_NOOP("Localizable", "Keep both"),
+        QT_TRANSLATE_NOOP("Localizable", "Skip"),
+        QT_TRANSLATE_NOOP("Localizable", "Replace"),
+        QT_TRANSLATE_NOOP("Localizable", "Close"),
+        QT_TRANSLATE_NOOP("Localizable", "Preset files"),
+        QT_TRANSLATE_NOOP("Localizable", "Another preset of this format already has this name."),
+        QT_TRANSLATE_NOOP("Localizable", "Imported: %1. Replaced: %2. Skipped: %3."),
+        QT_TRANSLATE_NOOP("Localizable", "Exported: %1."),
+        QT_TRANSLATE_NOOP("Localizable", "The file could not be imported: %1"),
+        QT_TRANSLATE_NOOP("Localizable", "The presets could not be exported: %1"),
     };
 
     // boundKeys as the manager hands them out, duplicates included.

@@ -83,6 +83,10 @@ public:
     // carries entries this version cannot read. False when there is no such child.
     static bool SetChildAside(const std::shared_ptr<ILMFormatNode>& parent,
                               const std::string& title);
+    // Moves node's preset at index from to index to, the presets between them
+    // shifting by one place; entries carried unread keep their places. False
+    // when either index is out of range.
+    static bool MoveFormatPreset(const std::shared_ptr<ILMFormatNode>& node, int from, int to);
     // Whether text fits the limits every title and description is read back
     // with; setters cut longer texts to MaxTextLength.
     static bool IsAcceptableText(const std::string& text);

@@ -67,6 +67,11 @@ bool ILMFormatNode::SetChildAside(const std::shared_ptr<ILMFormatNode>& parent,
     return mine && mine->CarryChildAt(mine->IndexOfChild(title));
 }
 
+bool ILMFormatNode::MoveFormatPreset(const std::shared_ptr<ILMFormatNode>& node, int from, int to) {
+    auto* mine = dynamic_cast<LMFormatNode*>(node.get());
+    return mine && mine->MovePreset(from, to);
+}
+
 bool ILMFormatNode::IsAcceptableText(const std::string& text) {
     return LMFormatLimits::Text(text) == text;
 }
@@ -225,6 +230,18 @@ bool LMFormatNode::IsEqualTo(std::shared_ptr<const ILMFormatNode> other) const {
         if (!m_children[static_cast<std::size_t>(i)]->IsEqualTo(other->ChildAt(i)))
             return false;
     }
+    return true;
+}
+
+bool LMFormatNode::MovePreset(int from, int to) {
+    if (!InRange(from, m_presets.size()) || !InRange(to, m_presets.size()))
+        return false;
+    const auto first = m_presets.begin();
+    if (from < to)
+        std::rotate(first + from, first + from + 1, first + to + 1);
+    else if (to < from)
+        std::rotate(first + to, first + from, first + from + 1);
+    m_revision.Touch();
     return true;
 }
 

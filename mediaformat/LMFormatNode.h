@@ -74,6 +74,8 @@ public:
     }
     const std::vector<Carried>& CarriedPresets() const { return m_carriedPresets; }
     const std::vector<Carried>& CarriedChildren() const { return m_carriedChildren; }
+    // Moves the readable preset at from to index to; false when out of range.
+    bool MovePreset(int from, int to);
     // Sets the readable child at index aside as a carried one; false when out of range.
     bool CarryChildAt(int index);
     // Fields of the node's JSON this version does not know, written back as read.

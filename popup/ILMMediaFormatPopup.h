@@ -51,6 +51,10 @@ public:
     // then preset holds the new settings.
     virtual bool PopupEditing(std::shared_ptr<ILMFormatPreset> preset,
                               std::shared_ptr<const ILMFormatNode> node) = 0;
+    // Shows the window in which the user renames, copies, orders, removes,
+    // imports and exports the custom presets (or raises it when it is open), and
+    // returns at once. Every change it makes is saved as it is made.
+    virtual void PopupManager() = 0;
 
     // The one facade of the process, made on first use.
     static std::shared_ptr<ILMMediaFormatPopup> Shared();

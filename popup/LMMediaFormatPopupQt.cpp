@@ -3,6 +3,7 @@
 
 #include "LMFormatEditingWndCtrl.h"
 #include "LMFormatSelectionWndCtrl.h"
+#include "LMPresetManagerWndCtrl.h"
 
 #include <QCoreApplication>
 #include <QRectF>
@@ -27,6 +28,10 @@ void LMMediaFormatPopupQt::PopupSelection(const Rect& rect, Completion completio
 bool LMMediaFormatPopupQt::PopupEditing(std::shared_ptr<ILMFormatPreset> preset,
                                         std::shared_ptr<const ILMFormatNode> node) {
     return LMFormatEditingWndCtrl::shared()->startEditing(std::move(preset), std::move(node));
+}
+
+void LMMediaFormatPopupQt::PopupManager() {
+    LMPresetManagerWndCtrl::shared()->showManager();
 }
 
 void LMMediaFormatPopupQt::LoadExternalDataInMainThread() {

@@ -13,6 +13,7 @@ public:
     void PopupSelection(const Rect& rect, Completion completion) override;
     bool PopupEditing(std::shared_ptr<ILMFormatPreset> preset,
                       std::shared_ptr<const ILMFormatNode> node) override;
+    void PopupManager() override;
 
     // Called on the loader's thread: queues the building of the tabs onto the
     // GUI thread and returns at once.

@@ -139,7 +139,7 @@ void LMFormatSelectionWndCtrl::loadExternalDataInMainThread() {
     strip->addTab(QStringLiteral("Recent"), TabImage(ILMArtworkImageMgr::CategoryFaceIDRecentList));
     d->recentFmtViewCtrl()->loadRecentList();
     strip->addTab(QStringLiteral("Custom"), TabImage(ILMArtworkImageMgr::CategoryFaceIDCustomize));
-    d->customFmtViewCtrl()->loadFormatNode(source->GetCustomList());
+    d->showCustomList(source->GetCustomList());
 
     d->cleanDefFormats();
     d->setupDefaultFormats();
@@ -490,18 +490,25 @@ void LMFormatSelectionWndCtrlPrivate::viewControllerEditingFormat(
 }
 
 // A save that merged in what another copy of the host stored, or a restored
-// backup, replaces the custom tree the tab was showing.
+// backup, replaces the custom tree the tab was showing; the preset manager
+// changes it where it is.
 void LMFormatSelectionWndCtrlPrivate::reloadCustomIfReplaced() {
     if (ui->tabHeaderView->countOfTab() == 0)
         return; // the tabs are not built yet; they will be from the current tree
     const auto custom = std::as_const(*ILMFmtPresetDataSource::Shared()).GetCustomList();
-    if (customFmtViewCtrl()->formatNode() != custom)
-        customFmtViewCtrl()->loadFormatNode(custom);
+    if (customFmtViewCtrl()->formatNode() != custom ||
+        custom->ToJson()->Text() != m_customShownText)
+        showCustomList(custom);
+}
+
+void LMFormatSelectionWndCtrlPrivate::showCustomList(std::shared_ptr<const ILMFormatNode> custom) {
+    m_customShownText = custom ? std::string(custom->ToJson()->Text()) : std::string();
+    customFmtViewCtrl()->loadFormatNode(std::move(custom));
 }
 
 void LMFormatSelectionWndCtrlPrivate::formatEditingWndCtrlDidCreateFormatPreset(
     LMFormatEditingWndCtrl*) {
-    customFmtViewCtrl()->loadFormatNode(ILMFmtPresetDataSource::Shared()->GetCustomList());
+    showCustomList(ILMFmtPresetDataSource::Shared()->GetCustomList());
 }
 
 void LMFormatSelectionWndCtrlPrivate::completePendingShowing() {

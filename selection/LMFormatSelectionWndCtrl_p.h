@@ -13,6 +13,7 @@
 #include <QRect>
 
 #include <memory>
+#include <string>
 
 class LMClickSequenceGuard;
 class LMFmtNodeViewCtrl;
@@ -87,6 +88,8 @@ private:
     // Shows the window where it is and takes the focus.
     void popupAgain();
     void reloadCustomIfReplaced();
+    // Loads the custom tree into its tab and notes what it held then.
+    void showCustomList(std::shared_ptr<const Lumeran::ILMFormatNode> custom);
     void takeTypedText(const QString& text);
     // The keyboard focus goes to the search field, or to the window itself
     // while the field is disabled (Escape must still reach the window).
@@ -109,6 +112,9 @@ private:
     // popup has gone from under the pointer.
     LMClickSequenceGuard* const clickGuard;
     LMFmtNodeViewCtrl* m_customFmtViewCtrl = nullptr;
+    // The JSON text of the custom tree when its tab was loaded: the tree changes
+    // in place too (the preset manager renames, copies, orders and imports).
+    std::string m_customShownText;
     LMFmtRecentViewCtrl* m_recentFmtViewCtrl = nullptr;
     QList<LMFmtNodeViewCtrl*> m_defFmtViewCtrls;
     bool finishedSelecting = false;

@@ -38,8 +38,9 @@ QString Localized(const std::string& key) {
 
 LMDemoHostWindow::LMDemoHostWindow(QWidget* parent)
     : QMainWindow(parent), m_source(new QLineEdit(this)), m_formatButton(new QPushButton(this)),
-      m_editButton(new QPushButton(QStringLiteral("Edit…"), this)), m_description(new QLabel(this)),
-      m_arguments(new QPlainTextEdit(this)),
+      m_editButton(new QPushButton(QStringLiteral("Edit…"), this)),
+      m_manageButton(new QPushButton(QStringLiteral("Manage presets…"), this)),
+      m_description(new QLabel(this)), m_arguments(new QPlainTextEdit(this)),
       m_convertButton(new QPushButton(QStringLiteral("Convert"), this)),
       m_cancelButton(new QPushButton(QStringLiteral("Cancel"), this)),
       m_progress(new QProgressBar(this)), m_status(new QLabel(this)),
@@ -96,6 +97,11 @@ QFormLayout* LMDemoHostWindow::buildForm() {
     connect(m_editButton, &QPushButton::clicked, this, &LMDemoHostWindow::editFormat);
     formatRow->addWidget(m_formatButton);
     formatRow->addWidget(m_editButton);
+    // Rename, order, back up and share the custom presets: the framework's own window.
+    m_manageButton->setToolTip(QStringLiteral("Rename, order, import and export your presets"));
+    connect(m_manageButton, &QPushButton::clicked, this,
+            [] { ILMMediaFormatPopup::Shared()->PopupManager(); });
+    formatRow->addWidget(m_manageButton);
     formatRow->addStretch();
     form->addRow(QStringLiteral("Format:"), formatRow);
     m_description->setWordWrap(true);

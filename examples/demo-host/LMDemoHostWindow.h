@@ -20,7 +20,8 @@ class QPushButton;
 
 // The demo's main window, a small converter and the host side of the framework:
 // a source file; the "Format" button that shows the current choice and pops the
-// selector up under itself; "Edit…" that opens the preset editor on it; a
+// selector up under itself; "Edit…" that opens the preset editor on it;
+// "Manage presets…" that opens the window of the user's custom presets; a
 // language menu; and "Convert", which runs FFmpeg with the chosen preset.
 class LMDemoHostWindow : public QMainWindow {
     Q_OBJECT
@@ -35,6 +36,7 @@ public:
 
     QPushButton* formatButton() const { return m_formatButton; }
     QPushButton* editButton() const { return m_editButton; }
+    QPushButton* manageButton() const { return m_manageButton; }
     QPushButton* convertButton() const { return m_convertButton; }
     QPushButton* cancelButton() const { return m_cancelButton; }
     LMDemoConverter* converter() const { return m_converter; }
@@ -66,6 +68,7 @@ private:
     QLineEdit* m_source;
     QPushButton* m_formatButton;
     QPushButton* m_editButton;
+    QPushButton* m_manageButton;
     QLabel* m_description;
     QPlainTextEdit* m_arguments;
     QPushButton* m_convertButton;

@@ -431,5 +431,85 @@
         <source>Size not known for an automatic codec</source>
         <translation>Größe bei automatischem Codec unbekannt</translation>
     </message>
+    <message>
+        <source>Manage Presets</source>
+        <translation>Voreinstellungen verwalten</translation>
+    </message>
+    <message>
+        <source>Manage Presets…</source>
+        <translation>Voreinstellungen verwalten …</translation>
+    </message>
+    <message>
+        <source>Your custom presets, by format</source>
+        <translation>Ihre eigenen Voreinstellungen, nach Format</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importieren …</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren …</translation>
+    </message>
+    <message>
+        <source>Names already in use on import:</source>
+        <translation>Beim Import bereits vergebene Namen:</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Beide behalten</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Preset files</source>
+        <translation>Voreinstellungsdateien</translation>
+    </message>
+    <message>
+        <source>Another preset of this format already has this name.</source>
+        <translation>Eine andere Voreinstellung dieses Formats hat diesen Namen bereits.</translation>
+    </message>
+    <message>
+        <source>Imported: %1. Replaced: %2. Skipped: %3.</source>
+        <translation>Importiert: %1. Ersetzt: %2. Übersprungen: %3.</translation>
+    </message>
+    <message>
+        <source>Exported: %1.</source>
+        <translation>Exportiert: %1.</translation>
+    </message>
+    <message>
+        <source>The file could not be imported: %1</source>
+        <translation>Die Datei konnte nicht importiert werden: %1</translation>
+    </message>
+    <message>
+        <source>The presets could not be exported: %1</source>
+        <translation>Die Voreinstellungen konnten nicht exportiert werden: %1</translation>
+    </message>
 </context>
 </TS>

@@ -431,5 +431,85 @@
         <source>Size not known for an automatic codec</source>
         <translation>Size not known for an automatic codec</translation>
     </message>
+    <message>
+        <source>Manage Presets</source>
+        <translation>Manage Presets</translation>
+    </message>
+    <message>
+        <source>Manage Presets…</source>
+        <translation>Manage Presets…</translation>
+    </message>
+    <message>
+        <source>Your custom presets, by format</source>
+        <translation>Your custom presets, by format</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Rename</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplicate</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Move Up</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Move Down</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Import…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Export…</translation>
+    </message>
+    <message>
+        <source>Names already in use on import:</source>
+        <translation>Names already in use on import:</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Keep both</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Skip</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Preset files</source>
+        <translation>Preset files</translation>
+    </message>
+    <message>
+        <source>Another preset of this format already has this name.</source>
+        <translation>Another preset of this format already has this name.</translation>
+    </message>
+    <message>
+        <source>Imported: %1. Replaced: %2. Skipped: %3.</source>
+        <translation>Imported: %1. Replaced: %2. Skipped: %3.</translation>
+    </message>
+    <message>
+        <source>Exported: %1.</source>
+        <translation>Exported: %1.</translation>
+    </message>
+    <message>
+        <source>The file could not be imported: %1</source>
+        <translation>The file could not be imported: %1</translation>
+    </message>
+    <message>
+        <source>The presets could not be exported: %1</source>
+        <translation>The presets could not be exported: %1</translation>
+    </message>
 </context>
 </TS>

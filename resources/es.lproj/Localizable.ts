@@ -431,5 +431,85 @@
         <source>Size not known for an automatic codec</source>
         <translation>Tamaño desconocido con un códec automático</translation>
     </message>
+    <message>
+        <source>Manage Presets</source>
+        <translation>Administrar preajustes</translation>
+    </message>
+    <message>
+        <source>Manage Presets…</source>
+        <translation>Administrar preajustes…</translation>
+    </message>
+    <message>
+        <source>Your custom presets, by format</source>
+        <translation>Sus preajustes personalizados, por formato</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Cambiar nombre</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplicar</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Names already in use on import:</source>
+        <translation>Nombres ya en uso al importar:</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Conservar ambos</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Omitir</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Preset files</source>
+        <translation>Archivos de preajustes</translation>
+    </message>
+    <message>
+        <source>Another preset of this format already has this name.</source>
+        <translation>Otro preajuste de este formato ya tiene este nombre.</translation>
+    </message>
+    <message>
+        <source>Imported: %1. Replaced: %2. Skipped: %3.</source>
+        <translation>Importados: %1. Reemplazados: %2. Omitidos: %3.</translation>
+    </message>
+    <message>
+        <source>Exported: %1.</source>
+        <translation>Exportados: %1.</translation>
+    </message>
+    <message>
+        <source>The file could not be imported: %1</source>
+        <translation>No se pudo importar el archivo: %1</translation>
+    </message>
+    <message>
+        <source>The presets could not be exported: %1</source>
+        <translation>No se pudieron exportar los preajustes: %1</translation>
+    </message>
 </context>
 </TS>

@@ -431,5 +431,85 @@
         <source>Size not known for an automatic codec</source>
         <translation>Taille inconnue avec un codec automatique</translation>
     </message>
+    <message>
+        <source>Manage Presets</source>
+        <translation>Gérer les préréglages</translation>
+    </message>
+    <message>
+        <source>Manage Presets…</source>
+        <translation>Gérer les préréglages…</translation>
+    </message>
+    <message>
+        <source>Your custom presets, by format</source>
+        <translation>Vos préréglages personnalisés, par format</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Dupliquer</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>Names already in use on import:</source>
+        <translation>Noms déjà utilisés à l’importation :</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Garder les deux</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Ignorer</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Preset files</source>
+        <translation>Fichiers de préréglages</translation>
+    </message>
+    <message>
+        <source>Another preset of this format already has this name.</source>
+        <translation>Un autre préréglage de ce format porte déjà ce nom.</translation>
+    </message>
+    <message>
+        <source>Imported: %1. Replaced: %2. Skipped: %3.</source>
+        <translation>Importés : %1. Remplacés : %2. Ignorés : %3.</translation>
+    </message>
+    <message>
+        <source>Exported: %1.</source>
+        <translation>Exportés : %1.</translation>
+    </message>
+    <message>
+        <source>The file could not be imported: %1</source>
+        <translation>Le fichier n’a pas pu être importé : %1</translation>
+    </message>
+    <message>
+        <source>The presets could not be exported: %1</source>
+        <translation>Les préréglages n’ont pas pu être exportés : %1</translation>
+    </message>
 </context>
 </TS>

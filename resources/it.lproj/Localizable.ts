@@ -431,5 +431,85 @@
         <source>Size not known for an automatic codec</source>
         <translation>Dimensione sconosciuta con un codec automatico</translation>
     </message>
+    <message>
+        <source>Manage Presets</source>
+        <translation>Gestisci preimpostazioni</translation>
+    </message>
+    <message>
+        <source>Manage Presets…</source>
+        <translation>Gestisci preimpostazioni…</translation>
+    </message>
+    <message>
+        <source>Your custom presets, by format</source>
+        <translation>Le tue preimpostazioni personalizzate, per formato</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Rinomina</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplica</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Sposta su</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Sposta giù</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importa…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Esporta…</translation>
+    </message>
+    <message>
+        <source>Names already in use on import:</source>
+        <translation>Nomi già in uso durante l’importazione:</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Mantieni entrambi</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Salta</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Sostituisci</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Preset files</source>
+        <translation>File di preimpostazioni</translation>
+    </message>
+    <message>
+        <source>Another preset of this format already has this name.</source>
+        <translation>Un’altra preimpostazione di questo formato ha già questo nome.</translation>
+    </message>
+    <message>
+        <source>Imported: %1. Replaced: %2. Skipped: %3.</source>
+        <translation>Importate: %1. Sostituite: %2. Saltate: %3.</translation>
+    </message>
+    <message>
+        <source>Exported: %1.</source>
+        <translation>Esportate: %1.</translation>
+    </message>
+    <message>
+        <source>The file could not be imported: %1</source>
+        <translation>Impossibile importare il file: %1</translation>
+    </message>
+    <message>
+        <source>The presets could not be exported: %1</source>
+        <translation>Impossibile esportare le preimpostazioni: %1</translation>
+    </message>
 </context>
 </TS>

@@ -431,5 +431,85 @@
         <source>Size not known for an automatic codec</source>
         <translation>自動コーデックではサイズを見積もれません</translation>
     </message>
+    <message>
+        <source>Manage Presets</source>
+        <translation>プリセットの管理</translation>
+    </message>
+    <message>
+        <source>Manage Presets…</source>
+        <translation>プリセットを管理…</translation>
+    </message>
+    <message>
+        <source>Your custom presets, by format</source>
+        <translation>フォーマット別のカスタムプリセット</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>名前を変更</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>上へ移動</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>下へ移動</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>読み込む…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>書き出す…</translation>
+    </message>
+    <message>
+        <source>Names already in use on import:</source>
+        <translation>読み込み時に使用中の名前:</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>両方を残す</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>スキップ</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換える</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Preset files</source>
+        <translation>プリセットファイル</translation>
+    </message>
+    <message>
+        <source>Another preset of this format already has this name.</source>
+        <translation>このフォーマットには同じ名前のプリセットがすでにあります。</translation>
+    </message>
+    <message>
+        <source>Imported: %1. Replaced: %2. Skipped: %3.</source>
+        <translation>読み込み: %1。置き換え: %2。スキップ: %3。</translation>
+    </message>
+    <message>
+        <source>Exported: %1.</source>
+        <translation>書き出し: %1。</translation>
+    </message>
+    <message>
+        <source>The file could not be imported: %1</source>
+        <translation>ファイルを読み込めませんでした: %1</translation>
+    </message>
+    <message>
+        <source>The presets could not be exported: %1</source>
+        <translation>プリセットを書き出せませんでした: %1</translation>
+    </message>
 </context>
 </TS>

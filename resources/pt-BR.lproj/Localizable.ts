@@ -431,5 +431,85 @@
         <source>Size not known for an automatic codec</source>
         <translation>Tamanho desconhecido com um codec automático</translation>
     </message>
+    <message>
+        <source>Manage Presets</source>
+        <translation>Gerenciar predefinições</translation>
+    </message>
+    <message>
+        <source>Manage Presets…</source>
+        <translation>Gerenciar predefinições…</translation>
+    </message>
+    <message>
+        <source>Your custom presets, by format</source>
+        <translation>Suas predefinições personalizadas, por formato</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renomear</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplicar</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Mover para cima</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Mover para baixo</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Names already in use on import:</source>
+        <translation>Nomes já em uso ao importar:</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Manter ambos</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Ignorar</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Substituir</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Preset files</source>
+        <translation>Arquivos de predefinições</translation>
+    </message>
+    <message>
+        <source>Another preset of this format already has this name.</source>
+        <translation>Outra predefinição deste formato já tem este nome.</translation>
+    </message>
+    <message>
+        <source>Imported: %1. Replaced: %2. Skipped: %3.</source>
+        <translation>Importadas: %1. Substituídas: %2. Ignoradas: %3.</translation>
+    </message>
+    <message>
+        <source>Exported: %1.</source>
+        <translation>Exportadas: %1.</translation>
+    </message>
+    <message>
+        <source>The file could not be imported: %1</source>
+        <translation>Não foi possível importar o arquivo: %1</translation>
+    </message>
+    <message>
+        <source>The presets could not be exported: %1</source>
+        <translation>Não foi possível exportar as predefinições: %1</translation>
+    </message>
 </context>
 </TS>

@@ -431,5 +431,85 @@
         <source>Size not known for an automatic codec</source>
         <translation>自动编解码器无法估算大小</translation>
     </message>
+    <message>
+        <source>Manage Presets</source>
+        <translation>管理预设</translation>
+    </message>
+    <message>
+        <source>Manage Presets…</source>
+        <translation>管理预设…</translation>
+    </message>
+    <message>
+        <source>Your custom presets, by format</source>
+        <translation>按格式排列的自定义预设</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>导入…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>导出…</translation>
+    </message>
+    <message>
+        <source>Names already in use on import:</source>
+        <translation>导入时名称已被使用：</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>保留两者</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>跳过</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Preset files</source>
+        <translation>预设文件</translation>
+    </message>
+    <message>
+        <source>Another preset of this format already has this name.</source>
+        <translation>此格式中已有同名的预设。</translation>
+    </message>
+    <message>
+        <source>Imported: %1. Replaced: %2. Skipped: %3.</source>
+        <translation>已导入：%1。已替换：%2。已跳过：%3。</translation>
+    </message>
+    <message>
+        <source>Exported: %1.</source>
+        <translation>已导出：%1。</translation>
+    </message>
+    <message>
+        <source>The file could not be imported: %1</source>
+        <translation>无法导入该文件：%1</translation>
+    </message>
+    <message>
+        <source>The presets could not be exported: %1</source>
+        <translation>无法导出预设：%1</translation>
+    </message>
 </context>
 </TS>

@@ -7,11 +7,13 @@
 #include "LMFormatCollectionView.h"
 #include "LMFormatSelectionWndCtrl.h"
 #include "LMFormatSelectionWndCtrl_p.h"
+#include "LMPresetManagerWndCtrl.h"
 #include "LMTabHeaderView.h"
 #include "LMUiTestSupport.h"
 
 #include <QApplication>
 #include <QTest>
+#include <QTreeWidget>
 
 #include <gtest/gtest.h>
 
@@ -109,4 +111,53 @@ TEST_F(ILMMediaFormatPopupTest, TheCompletionReceivesTheChosenPresetAndNodeOnce)
     ASSERT_NE(node, nullptr);
     EXPECT_EQ(QString::fromStdString(chosen->Title()),
               list->model()->index(1, 0).data().toString());
+}
+
+TEST_F(ILMMediaFormatPopupTest, PopupManagerShowsTheManagerWindowWithTheCustomPresets) {
+    const auto node = ILMFormatNode::MallocFormatNode("MP4", "MP4 file format", 100);
+    ILMFmtPresetDataSource::Shared()->AddCustomPreset(
+        ILMFormatPreset::MallocFormatPreset("mp4", "Mine"), node);
+    ILMMediaFormatPopup::Shared()->PopupManager();
+    LMPresetManagerWndCtrl* manager = LMPresetManagerWndCtrl::shared();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(manager));
+    const auto* tree = manager->findChild<QTreeWidget*>(QStringLiteral("treePresets"));
+    ASSERT_TRUE(tree);
+    ASSERT_EQ(tree->topLevelItemCount(), 1);
+    EXPECT_EQ(tree->topLevelItem(0)->child(0)->text(0), QStringLiteral("Mine"));
+    // A second call raises the same window.
+    ILMMediaFormatPopup::Shared()->PopupManager();
+    EXPECT_EQ(LMPresetManagerWndCtrl::shared(), manager);
+    manager->close();
+}
+
+TEST_F(ILMMediaFormatPopupTest, TheCustomTabShowsWhatTheManagerChangedAtTheNextShowing) {
+    const auto node = ILMFormatNode::MallocFormatNode("MP4", "MP4 file format", 100);
+    auto source = ILMFmtPresetDataSource::Shared();
+    source->AddCustomPreset(ILMFormatPreset::MallocFormatPreset("mp4", "First"), node);
+    source->AddCustomPreset(ILMFormatPreset::MallocFormatPreset("mp4", "Second"), node);
+    SetupThroughFacade();
+    const auto rows = [] {
+        QStringList texts;
+        const QAbstractItemModel* model = Window()->customFmtViewCtrl()->fmtListView()->model();
+        for (int row = 0; row < model->rowCount(); ++row)
+            texts << model->index(row, 0).data().toString();
+        return texts;
+    };
+    auto* ctrl = LMFormatSelectionWndCtrl::shared();
+    ILMMediaFormatPopup::Shared()->PopupSelection(ILMMediaFormatPopup::Rect{100, 100, 50, 20}, {});
+    ASSERT_EQ(rows(), (QStringList{QStringLiteral("First"), QStringLiteral("Second")}));
+    ctrl->windowDidResignKey();
+
+    // What the manager's buttons do: a rename, a move, a duplicate, each saved.
+    ASSERT_TRUE(source->RenameCustomPreset("MP4", "First", "Renamed", nullptr));
+    ASSERT_TRUE(
+        source->MoveCustomPreset("MP4", "Second", ILMFmtPresetDataSource::MoveDirection::Up));
+    ASSERT_EQ(source->DuplicateCustomPreset("MP4", "Renamed"), "Renamed (2)");
+    source->SaveCustomList();
+    ILMMediaFormatPopup::Shared()->PopupSelection(ILMMediaFormatPopup::Rect{100, 100, 50, 20}, {});
+    const QStringList after = rows();
+    EXPECT_EQ(after, (QStringList{QStringLiteral("Second"), QStringLiteral("Renamed"),
+                                  QStringLiteral("Renamed (2)")}))
+        << after.join(QLatin1Char('|')).toStdString();
+    ctrl->windowDidResignKey();
 }

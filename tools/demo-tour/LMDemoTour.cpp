@@ -17,6 +17,7 @@
 #include "LMFormatInternationalizationMgr.h"
 #include "LMFormatSelectionWndCtrl.h"
 #include "LMFormatSelectionWndCtrl_p.h"
+#include "LMPresetManagerWndCtrl.h"
 #include "LMTabHeaderView.h"
 
 #include <QAbstractButton>
@@ -38,6 +39,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolTip>
+#include <QTreeWidget>
 
 #include <algorithm>
 #include <cstdio>
@@ -127,8 +129,8 @@ bool LMDemoTour::run() {
     m_host->show();
     settle();
 
-    if (!popupSteps() || !choiceSteps() || !editorSteps() || !darkSteps() || !unavailableSteps() ||
-        (m_convert && !conversionSteps()))
+    if (!popupSteps() || !choiceSteps() || !editorSteps() || !managerSteps() || !darkSteps() ||
+        !unavailableSteps() || (m_convert && !conversionSteps()))
         return false;
     std::printf("%d screenshots written.\n", m_shots);
     return true;
@@ -396,6 +398,40 @@ bool LMDemoTour::editorSteps() {
     // 11. A preset without a video stream: the video section is disabled.
     return shootEditor(wav->FormatPresetAt(0)->Clone(), wav,
                        QStringLiteral("11-editor-audio-only"));
+}
+
+// The window of the user's own presets, opened with "Manage presets…".
+bool LMDemoTour::managerSteps() {
+    // One more preset, made from a pasted FFmpeg command line, under a second format.
+    const auto pasted = ILMFmtPresetDataSource::Shared()->AddCustomPresetFromArguments(
+        "Small HEVC",
+        {"-c:v", "libx265", "-crf", "28", "-c:a", "aac", "-b:a", "128k", "-f", "matroska"});
+    if (!check(pasted.ok && pasted.notMapped.empty(), "the pasted command line did not map"))
+        return false;
+    ILMFmtPresetDataSource::Shared()->SaveCustomList();
+    QTest::mouseClick(m_host->manageButton(), Qt::LeftButton);
+    settle();
+    LMPresetManagerWndCtrl* manager = LMPresetManagerWndCtrl::shared();
+    auto* tree = manager->findChild<QTreeWidget*>(QStringLiteral("treePresets"));
+    if (!check(manager->isVisible() && tree && tree->topLevelItemCount() == 2,
+               "the preset manager did not open on two formats"))
+        return false;
+    manager->move(m_host->geometry().topRight() + QPoint(-200, 120));
+    // 16. The presets by format, the second one selected by the keyboard.
+    tree->setFocus();
+    QTest::keyClick(tree, Qt::Key_Down);
+    if (!shoot(QStringLiteral("16-preset-manager")))
+        return false;
+    // 17. The same window in Japanese, after a duplicate.
+    QTest::mouseClick(manager->findChild<QPushButton*>(QStringLiteral("btnDuplicate")),
+                      Qt::LeftButton);
+    LMFormatInternationalizationMgr* mgr = LMFormatInternationalizationMgr::sharedObject();
+    mgr->setLanguage(LMFormatLanguageJapanese);
+    const bool shot = shoot(QStringLiteral("17-preset-manager-japanese"));
+    mgr->setLanguage(LMFormatLanguageEnglish);
+    manager->close();
+    settle();
+    return shot;
 }
 
 // The popup and the editor once more, on a desktop with a dark theme. Taken

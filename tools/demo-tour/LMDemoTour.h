@@ -45,6 +45,7 @@ private:
     bool editorSteps();
     bool shootEditor(std::shared_ptr<Lumeran::ILMFormatPreset> preset,
                      std::shared_ptr<const Lumeran::ILMFormatNode> node, const QString& name);
+    bool managerSteps();
     bool conversionSteps();
     bool darkSteps();
     bool unavailableSteps();

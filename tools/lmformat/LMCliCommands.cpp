@@ -6,6 +6,7 @@
 #include "LMCliOutput.h"
 #include "LMFFmpegCommands.h"
 #include "LMListCommands.h"
+#include "LMPresetCommands.h"
 
 #include <algorithm>
 #include <array>
@@ -18,8 +19,9 @@ using LMCliNeeds::Nothing;
 using LMCliNeeds::Preset;
 namespace Lists = LMListCommands;
 namespace Catalogues = LMCatalogueCommands;
+namespace Presets = LMPresetCommands;
 
-const std::array<LMCliCommand, 14> kCommands{{
+const std::array<LMCliCommand, 21> kCommands{{
     {"validate", "[FILE]",
      "Count the categories, formats and presets of a catalogue (the default one without FILE); "
      "with --ffmpeg, list the presets that FFmpeg cannot run and why.",
@@ -44,6 +46,22 @@ const std::array<LMCliCommand, 14> kCommands{{
     {"custom add", "CATALOGUE \"CATEGORY/FORMAT/PRESET\" NAME",
      "Keep a copy of a preset as a custom preset named NAME.", Preset, Lists::CustomAdd},
     {"custom remove", "NODE PRESET", "Remove a custom preset.", Nothing, Lists::CustomRemove},
+    {"custom export", "FILE [NODE/PRESET...]",
+     "Write the custom presets, or the ones named, to a preset file.", Nothing, Presets::Export},
+    {"custom import", "FILE [--on-clash rename|skip|replace]",
+     "Add a preset file's presets; a taken name is numbered, left out or replaced.", Nothing,
+     Presets::Import},
+    {"custom rename", "NODE OLD NEW", "Give a custom preset a name no other preset of NODE has.",
+     Nothing, Presets::Rename},
+    {"custom duplicate", "NODE PRESET", "File a numbered copy of a custom preset after it.",
+     Nothing, Presets::Duplicate},
+    {"custom move", "NODE PRESET up|down", "Move a custom preset one place within NODE.", Nothing,
+     Presets::Move},
+    {"custom from-args", "NAME -- FFMPEG-OPTION...",
+     "Keep the preset nearest to ffmpeg options as NAME; print the options that did not map.",
+     Nothing, Presets::FromArguments},
+    {"custom ffmpeg", "NODE PRESET", "Print a custom preset's ffmpeg output options.", Nothing,
+     Presets::FFmpeg},
     {"recent|custom backups", "", "List the saved copies of a list.", Nothing, Lists::Backups},
     {"recent|custom restore", "N", "Put back saved copy N of a list.", Nothing, Lists::Restore,
      " (N from \"backups\")"},
@@ -55,12 +73,6 @@ QString NameOf(const LMCliCommand& command) {
 
 QStringList OperandsOf(const LMCliCommand& command) {
     return QString::fromUtf8(command.operands).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
-qsizetype RequiredOperands(const LMCliCommand& command) {
-    const QStringList operands = OperandsOf(command);
-    return std::count_if(operands.begin(), operands.end(),
-                         [](const QString& word) { return !word.startsWith(QLatin1Char('[')); });
 }
 
 // Takes "--ffmpeg PATH" out of the operands of a command that accepts it;
@@ -132,9 +144,25 @@ const LMCliCommand* Find(const QString& group, const QString& verb) {
     return found == kCommands.end() ? nullptr : &*found;
 }
 
+// How many operands a command takes: its words outside brackets are needed, a
+// bracketed group may be left out, and a word with "..." may repeat.
+bool TakesOperandCount(const LMCliCommand& command, qsizetype count) {
+    qsizetype least = 0;
+    qsizetype most = 0;
+    bool optional = false;
+    bool repeats = false;
+    for (const QString& word : OperandsOf(command)) {
+        optional = optional || word.startsWith(QLatin1Char('['));
+        least += optional ? 0 : 1;
+        ++most;
+        repeats = repeats || word.contains(QLatin1String("..."));
+        optional = optional && !word.endsWith(QLatin1Char(']'));
+    }
+    return count >= least && (repeats || count <= most);
+}
+
 int RunCommand(LMCliCall& call) {
-    if (!TakeFFmpegOption(call) || call.operands.size() < RequiredOperands(*call.command) ||
-        call.operands.size() > OperandsOf(*call.command).size())
+    if (!TakeFFmpegOption(call) || !TakesOperandCount(*call.command, call.operands.size()))
         return LMCliOutput::Fail(LMCliCommands::UsageOf(*call.command));
     if (!call.target.Load(call.command->needs, call.operands))
         return 1;
