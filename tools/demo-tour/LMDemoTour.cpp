@@ -501,7 +501,7 @@ bool LMDemoTour::unavailableSteps() {
                            presets->viewport());
         settle();
         LMDemoScreenshot::setShowsToolTips(true);
-        shot = shoot(QStringLiteral("16-unavailable-preset"));
+        shot = shoot(QStringLiteral("18-unavailable-preset"));
         LMDemoScreenshot::setShowsToolTips(false);
         QToolTip::hideText();
     }
