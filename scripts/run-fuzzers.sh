@@ -12,11 +12,11 @@ usage="usage: run-fuzzers.sh BUILD_DIR SECONDS"
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=$(cd "${1:?$usage}" && pwd)
 seconds=${2:?$usage}
-targets=(lmfp_fuzz_catalogue lmfp_fuzz_stored_list lmfp_fuzz_base64 lmfp_fuzz_icfg)
+targets=(lmfp_fuzz_catalogue lmfp_fuzz_stored_list lmfp_fuzz_preset_file lmfp_fuzz_base64 lmfp_fuzz_icfg)
 
 dictionary() {
   case $1 in
-    lmfp_fuzz_catalogue | lmfp_fuzz_stored_list) echo "$root/fuzz/format.dict" ;;
+    lmfp_fuzz_catalogue | lmfp_fuzz_stored_list | lmfp_fuzz_preset_file) echo "$root/fuzz/format.dict" ;;
     lmfp_fuzz_icfg) echo "$root/fuzz/icfg.dict" ;;
   esac
 }
