@@ -12,12 +12,14 @@
 #include "LMNewPresetView.h"
 #include "LMSingleton.h"
 #include "LMSizeEstimate.h"
+#include "LMSizeText.h"
 #include "ui_LMFormatEditingWndCtrl.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QCursor>
 #include <QLabel>
+#include <QLocale>
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
@@ -316,9 +318,24 @@ void LMFormatEditingWndCtrlPrivate::updateSizeEstimate() {
         label->setText(text(QStringLiteral("Size not known for an automatic codec")));
         return;
     }
-    const QString size = QString::fromStdString(estimate.Size());
+    const QString size = LMSizeText::size(estimate, q->lizationMgr());
     label->setText(estimate.IsExact() ? text(QStringLiteral("%1 per 10 minutes")).arg(size)
                                       : text(QStringLiteral("≈ %1 per 10 minutes")).arg(size));
+    // A preset that keeps the source's frame size or rate is sized for a source
+    // nobody described; the line says which, on hover and to screen readers.
+    const QLocale locale(q->lizationMgr()->languageCode());
+    const QString assumed =
+        estimate.UsesAssumedSource()
+            ? text(QStringLiteral("Sized for a source of %1 at %2 fps with %3 kHz stereo sound "
+                                  "where the preset keeps the source's settings."))
+                  .arg(QStringLiteral("%1x%2")
+                           .arg(Lumeran::LMSizeEstimate::kAssumedWidth)
+                           .arg(Lumeran::LMSizeEstimate::kAssumedHeight),
+                       locale.toString(Lumeran::LMSizeEstimate::kAssumedFramesPerSecond),
+                       locale.toString(Lumeran::LMSizeEstimate::kAssumedHertz / 1000))
+            : QString();
+    label->setToolTip(assumed);
+    label->setAccessibleDescription(assumed);
 }
 
 void LMFormatEditingWndCtrlPrivate::SetupFormatVideoSettings() {

@@ -80,7 +80,7 @@ public:
     // Keys that are looked up but not bound: the titles and descriptions of the
     // default catalogue and of the lists the data source makes, the option names
     // of the preset editor, and the words of the popup and the editor.
-    static constexpr std::array<const char*, 78> otherKeys{
+    static constexpr std::array<const char*, 84> otherKeys{
         // Titles and descriptions of the default catalogue.
         QT_TRANSLATE_NOOP("Localizable", "Smartphone"),
         QT_TRANSLATE_NOOP("Localizable", "Tablet"),
@@ -149,6 +149,15 @@ public:
         QT_TRANSLATE_NOOP("Localizable", "≈ %1 per 10 minutes"),
         QT_TRANSLATE_NOOP("Localizable", "%1 per 10 minutes"),
         QT_TRANSLATE_NOOP("Localizable", "Size not known for an automatic codec"),
+        // Sizes in the language's units (%1: the number, in the language's digits).
+        QT_TRANSLATE_NOOP("Localizable", "%1 B"),
+        QT_TRANSLATE_NOOP("Localizable", "%1 kB"),
+        QT_TRANSLATE_NOOP("Localizable", "%1 MB"),
+        QT_TRANSLATE_NOOP("Localizable", "%1 GB"),
+        QT_TRANSLATE_NOOP("Localizable", "%1 TB"),
+        // %1: "1920x1080"; %2: frames per second; %3: kilohertz.
+        QT_TRANSLATE_NOOP("Localizable", "Sized for a source of %1 at %2 fps with %3 kHz stereo "
+                                         "sound where the preset keeps the source's settings."),
         // Words of the preset manager.
         QT_TRANSLATE_NOOP("Localizable", "Manage Presets"),
         QT_TRANSLATE_NOOP("Localizable", "Manage Presets…"),

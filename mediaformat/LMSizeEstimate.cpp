@@ -225,18 +225,21 @@ LMSizeEstimate LMSizeEstimate::For(const std::shared_ptr<const ILMFormatPreset>&
     return For(preset, seconds, Source{});
 }
 
+LMSizeEstimate::Scaled LMSizeEstimate::Scale(double bytes) {
+    Scaled scaled{bytes, 0, 0};
+    while (scaled.value >= 1000 && scaled.unit < 4) {
+        scaled.value /= 1000;
+        ++scaled.unit;
+    }
+    scaled.decimals = scaled.value < 10 && scaled.unit > 0 ? 1 : 0;
+    return scaled;
+}
+
 std::string LMSizeEstimate::FormatBytes(double bytes) {
     static const char* const units[] = {"B", "kB", "MB", "GB", "TB"};
-    int unit = 0;
-    while (bytes >= 1000 && unit < 4) {
-        bytes /= 1000;
-        ++unit;
-    }
+    const Scaled scaled = Scale(bytes);
     char text[32];
-    if (bytes < 10 && unit > 0)
-        std::snprintf(text, sizeof text, "%.1f %s", bytes, units[unit]);
-    else
-        std::snprintf(text, sizeof text, "%.0f %s", bytes, units[unit]);
+    std::snprintf(text, sizeof text, "%.*f %s", scaled.decimals, scaled.value, units[scaled.unit]);
     return text;
 }
 

@@ -56,6 +56,15 @@ public:
     std::string Size() const;
     // A size in bytes with a decimal prefix and two significant digits: "4.5 MB".
     static std::string FormatBytes(double bytes);
+    // The same size as numbers, for writing it in another language: the value
+    // in its unit (0 bytes, 1 kB, 2 MB, 3 GB, 4 TB) and the digits it shows
+    // after the decimal sign.
+    struct Scaled {
+        double value = 0;
+        int unit = 0;
+        int decimals = 0;
+    };
+    static Scaled Scale(double bytes);
 
 private:
     bool m_known = false;

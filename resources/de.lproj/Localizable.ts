@@ -511,5 +511,29 @@
         <source>The presets could not be exported: %1</source>
         <translation>Die Voreinstellungen konnten nicht exportiert werden: %1</translation>
     </message>
+    <message>
+        <source>%1 B</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>%1 kB</source>
+        <translation>%1 kB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>%1 TB</source>
+        <translation>%1 TB</translation>
+    </message>
+    <message>
+        <source>Sized for a source of %1 at %2 fps with %3 kHz stereo sound where the preset keeps the source's settings.</source>
+        <translation>Berechnet für eine Quelle mit %1 bei %2 fps und %3 kHz Stereoton, wo die Voreinstellung die Werte der Quelle beibehält.</translation>
+    </message>
 </context>
 </TS>

@@ -511,5 +511,29 @@
         <source>The presets could not be exported: %1</source>
         <translation>Les préréglages n’ont pas pu être exportés : %1</translation>
     </message>
+    <message>
+        <source>%1 B</source>
+        <translation>%1 o</translation>
+    </message>
+    <message>
+        <source>%1 kB</source>
+        <translation>%1 ko</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 Mo</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 Go</translation>
+    </message>
+    <message>
+        <source>%1 TB</source>
+        <translation>%1 To</translation>
+    </message>
+    <message>
+        <source>Sized for a source of %1 at %2 fps with %3 kHz stereo sound where the preset keeps the source's settings.</source>
+        <translation>Calculé pour une source en %1 à %2 i/s avec un son stéréo à %3 kHz là où le préréglage garde les réglages de la source.</translation>
+    </message>
 </context>
 </TS>

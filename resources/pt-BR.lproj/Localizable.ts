@@ -511,5 +511,29 @@
         <source>The presets could not be exported: %1</source>
         <translation>Não foi possível exportar as predefinições: %1</translation>
     </message>
+    <message>
+        <source>%1 B</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>%1 kB</source>
+        <translation>%1 kB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>%1 TB</source>
+        <translation>%1 TB</translation>
+    </message>
+    <message>
+        <source>Sized for a source of %1 at %2 fps with %3 kHz stereo sound where the preset keeps the source's settings.</source>
+        <translation>Calculado para uma fonte de %1 a %2 fps com som estéreo de %3 kHz onde a predefinição mantém os valores da fonte.</translation>
+    </message>
 </context>
 </TS>

@@ -13,6 +13,7 @@
 #include "LMNewPresetPrompt.h"
 #include "LMNewPresetView.h"
 #include "LMSizeEstimate.h"
+#include "LMSizeText.h"
 #include "LMUiTestSupport.h"
 
 #include <QCloseEvent>
@@ -854,8 +855,9 @@ TEST_F(LMFormatEditingWndCtrlTest, TheSizeLineIsInTheEditorsLanguage) {
             QLabel* line = editor.findChild<QLabel*>(QStringLiteral("lblSizeEstimate"));
             ASSERT_TRUE(line);
             const QString template_ = Localized("≈ %1 per 10 minutes");
-            EXPECT_EQ(line->text(), template_.arg(QString::fromStdString(
-                                        LMSizeEstimate::For(d->editingPreset(), 600).Size())))
+            EXPECT_EQ(line->text(), template_.arg(LMSizeText::size(
+                                        LMSizeEstimate::For(d->editingPreset(), 600),
+                                        LMFormatInternationalizationMgr::sharedObject())))
                 << language.toStdString();
             if (language != LMFormatLanguageEnglish) {
                 EXPECT_NE(template_, QStringLiteral("≈ %1 per 10 minutes"))
@@ -864,4 +866,47 @@ TEST_F(LMFormatEditingWndCtrlTest, TheSizeLineIsInTheEditorsLanguage) {
         });
     }
     LMFormatInternationalizationMgr::sharedObject()->setLanguage(LMFormatLanguageEnglish);
+}
+
+TEST_F(LMFormatEditingWndCtrlTest, SizesAreWrittenWithTheLanguagesDecimalSignAndUnits) {
+    LMFormatInternationalizationMgr* mgr = LMFormatInternationalizationMgr::sharedObject();
+    mgr->setLanguage(LMFormatLanguageFrench);
+    EXPECT_EQ(LMSizeText::bytes(1.7e9, mgr), QStringLiteral("1,7 Go"));
+    EXPECT_EQ(LMSizeText::bytes(390e6, mgr), QStringLiteral("390 Mo"));
+    mgr->setLanguage(LMFormatLanguageGerman);
+    EXPECT_EQ(LMSizeText::bytes(4.5e6, mgr), QStringLiteral("4,5 MB"));
+    mgr->setLanguage(LMFormatLanguageEnglish);
+    EXPECT_EQ(LMSizeText::bytes(4.5e6, mgr),
+              QString::fromStdString(LMSizeEstimate::FormatBytes(4.5e6)));
+
+    const auto preset = cataloguePreset(mp4, "High Quality");
+    mgr->setLanguage(LMFormatLanguageFrench);
+    edit(preset->Clone(), mp4, [this] {
+        QLabel* line = editor.findChild<QLabel*>(QStringLiteral("lblSizeEstimate"));
+        ASSERT_TRUE(line);
+        // A range in one unit names it once, after the second figure.
+        static const QRegularExpression range(QStringLiteral("[0-9,]+( [kMG]o)?–[0-9,]+ [kMG]o"));
+        EXPECT_TRUE(range.match(line->text()).hasMatch()) << line->text().toStdString();
+        EXPECT_FALSE(line->text().contains(QStringLiteral("MB"))) << line->text().toStdString();
+    });
+    mgr->setLanguage(LMFormatLanguageEnglish);
+}
+
+TEST_F(LMFormatEditingWndCtrlTest, TheSizeLineSaysWhatSourceItAssumesOnlyWhereItAssumesOne) {
+    // "Same as source" frame size and rate: sized for the assumed source.
+    const auto preset = cataloguePreset(mp4, "High Quality");
+    edit(preset, mp4, [this] {
+        QLabel* line = editor.findChild<QLabel*>(QStringLiteral("lblSizeEstimate"));
+        ASSERT_TRUE(line);
+        EXPECT_TRUE(line->toolTip().contains(QStringLiteral("1920x1080")))
+            << line->toolTip().toStdString();
+        EXPECT_EQ(line->accessibleDescription(), line->toolTip());
+    });
+    // PCM at a chosen rate and layout is fixed by its settings alone.
+    const auto wav = catalogueNode("Audio", "WAV");
+    edit(cataloguePreset(wav, "High Quality"), wav, [this] {
+        QLabel* line = editor.findChild<QLabel*>(QStringLiteral("lblSizeEstimate"));
+        ASSERT_TRUE(line);
+        EXPECT_TRUE(line->toolTip().isEmpty()) << line->toolTip().toStdString();
+    });
 }
