@@ -10,9 +10,10 @@
 //   dismissed                       the showing ended without one
 //   recent: <n>  custom: <n>        the lists' lengths, after every showing
 //
-// It shows the popup again after each showing, until the test ends it.
+// It shows the popup again after each showing, until the test ends it. With
+// --ffmpeg, the popup marks the presets that binary cannot run.
 //
-//   lmfp_a11y_host <settings.ini>
+//   lmfp_a11y_host <settings.ini> [--ffmpeg PATH]
 
 #include "ILMAppSettings.h"
 #include "ILMFmtPresetDataSource.h"
@@ -86,8 +87,9 @@ int main(int argc, char** argv) {
     QCoreApplication::setApplicationName(QStringLiteral("lmfp-a11y-host"));
     QApplication app(argc, argv);
     const QStringList args = QCoreApplication::arguments();
-    if (args.size() != 2) {
-        std::fprintf(stderr, "usage: lmfp_a11y_host <settings.ini>\n");
+    const bool ffmpeg = args.size() == 4 && args.at(2) == QStringLiteral("--ffmpeg");
+    if (args.size() != 2 && !ffmpeg) {
+        std::fprintf(stderr, "usage: lmfp_a11y_host <settings.ini> [--ffmpeg PATH]\n");
         return 2;
     }
     // Before anything reads the stored lists: they come from this file alone.
@@ -96,6 +98,10 @@ int main(int argc, char** argv) {
     auto popup = ILMMediaFormatPopup::Shared();
     popup->SetupExternalFormatData(LMDefaultCatalogue::Path());
     popup->WaitForFormatDataLoadingComplete();
+    // What the binary can do is cached beside the settings, never in the
+    // user's own cache.
+    if (ffmpeg)
+        popup->SetFFmpegPath(args.at(3).toStdString(), args.at(1).toStdString() + ".ffmpeg-cache");
 
     auto source = ILMFmtPresetDataSource::Shared();
     const auto [preset, node] = FirstPreset(source->GetExternalFormatPresets());

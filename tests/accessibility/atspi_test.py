@@ -24,6 +24,9 @@ import pyatspi
 from gi.repository import GLib
 
 HOST = None
+# An FFmpeg whose encoder list lacks libx265 (tests/support).
+FAKE_FFMPEG = os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir, "support",
+                           "fake-ffmpeg-without-x265.sh")
 TAB_TITLES = ["Recent", "Video", "Audio", "Device", "Web Video", "Custom"]
 
 
@@ -114,13 +117,13 @@ def press_keys(*keys):
 class Host:
     """The host process and the lines it reports."""
 
-    def __init__(self, program):
+    def __init__(self, program, *options):
         self.folder = tempfile.TemporaryDirectory()
         settings = os.path.join(self.folder.name, "settings.ini")
         env = dict(os.environ, XDG_CONFIG_HOME=self.folder.name, XDG_CACHE_HOME=self.folder.name,
                    XDG_DATA_HOME=self.folder.name)
-        self.process = subprocess.Popen([program, settings], stdout=subprocess.PIPE, text=True,
-                                        env=env)
+        self.process = subprocess.Popen([program, settings, *options], stdout=subprocess.PIPE,
+                                        text=True, env=env)
         self.lines = queue.Queue()
         threading.Thread(target=self._read, daemon=True).start()
 
@@ -330,6 +333,31 @@ class PopupOverAtSpiTest(unittest.TestCase):
                   "Choose")
         self.host.next_line("chosen:")
         self.assertEqual(self.host.next_line("recent:").split()[-1], "0")
+
+
+class UnavailablePresetOverAtSpiTest(unittest.TestCase):
+    def setUp(self):
+        self.host = Host(HOST, "--ffmpeg", FAKE_FFMPEG)
+        self.addCleanup(self.host.stop)
+        self.host.next_line("ready")
+        self.popup = self.host.popup()
+
+    def test_a_preset_this_ffmpeg_cannot_run_says_why_and_what_to_pick_instead(self):
+        select_tab(self.popup, "Video")
+        do_action(row_named(list_named(self.popup, "Formats"), "HEVC MP4"), "Choose")
+        presets = wait_for(lambda: next((item for item in shown_lists(self.popup)
+                                         if item.description == "Presets of HEVC MP4"), None),
+                           "the presets of HEVC MP4")
+        row = row_named(presets, "High Quality")
+        reason = wait_for(lambda: "libx265" in row.description and row.description,
+                          "the reason in the row's description")
+        self.assertIn("try", reason)
+        # It can still be chosen: the host decides.
+        self.assertEqual(action_names(row)[0], "Choose")
+        select_tab(self.popup, "Video")
+        do_action(row_named(list_named(self.popup, "Formats"), "MP4"), "Choose")
+        plain = row_named(list_named(self.popup, "Presets"), "High Quality")
+        self.assertNotIn("libx265", plain.description)
 
 
 if __name__ == "__main__":
