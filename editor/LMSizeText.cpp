@@ -28,13 +28,9 @@ QString LMSizeText::bytes(double bytes, const LMFormatInternationalizationMgr* m
 
 QString LMSizeText::size(const LMSizeEstimate& estimate,
                          const LMFormatInternationalizationMgr* mgr) {
-    if (!estimate.IsKnown())
-        return {};
-    const QString high = bytes(static_cast<double>(estimate.High()), mgr);
-    if (estimate.IsExact())
-        return high;
-    const auto low = LMSizeEstimate::Scale(static_cast<double>(estimate.Low()));
-    if (low.unit == LMSizeEstimate::Scale(static_cast<double>(estimate.High())).unit)
-        return number(low, mgr) + QChar(0x2013) + high;
-    return bytes(static_cast<double>(estimate.Low()), mgr) + QChar(0x2013) + high;
+    return QString::fromStdString(
+        estimate.Size([mgr](const LMSizeEstimate::Scaled& scaled, bool withUnit) {
+            const QString figure = number(scaled, mgr);
+            return (withUnit ? unitPattern(scaled.unit, mgr).arg(figure) : figure).toStdString();
+        }));
 }

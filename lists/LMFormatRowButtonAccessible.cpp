@@ -3,7 +3,6 @@
 
 #include "LMFormatInternationalizationMgr.h"
 #include "LMFormatRowAccessible.h"
-#include "LMKeyText.h"
 
 LMFormatRowButtonAccessible::LMFormatRowButtonAccessible(const LMFormatRowAccessible* row,
                                                          LMFormatDataView::ActionButton button)
@@ -105,8 +104,10 @@ void LMFormatRowButtonAccessible::doAction(const QString& actionName) {
 }
 
 QStringList LMFormatRowButtonAccessible::keyBindingsForAction(const QString& actionName) const {
+    // The keys of the row's action of the same name.
     if (actionName != pressAction())
         return {};
-    return {LMKeyText::names({QKeyCombination(
-        m_button == LMFormatDataView::ActionButton::Edit ? Qt::Key_F2 : Qt::Key_Delete)})};
+    return m_row->keyBindingsForAction(m_button == LMFormatDataView::ActionButton::Edit
+                                           ? LMFormatRowAccessible::editAction()
+                                           : LMFormatRowAccessible::removeAction());
 }

@@ -235,25 +235,39 @@ LMSizeEstimate::Scaled LMSizeEstimate::Scale(double bytes) {
     return scaled;
 }
 
-std::string LMSizeEstimate::FormatBytes(double bytes) {
+namespace {
+
+// A figure in English units with a decimal point, as lmformat prints it.
+std::string English(const LMSizeEstimate::Scaled& scaled, bool withUnit) {
     static const char* const units[] = {"B", "kB", "MB", "GB", "TB"};
-    const Scaled scaled = Scale(bytes);
     char text[32];
-    std::snprintf(text, sizeof text, "%.*f %s", scaled.decimals, scaled.value, units[scaled.unit]);
+    if (withUnit)
+        std::snprintf(text, sizeof text, "%.*f %s", scaled.decimals, scaled.value,
+                      units[scaled.unit]);
+    else
+        std::snprintf(text, sizeof text, "%.*f", scaled.decimals, scaled.value);
     return text;
 }
 
+} // namespace
+
+std::string LMSizeEstimate::FormatBytes(double bytes) {
+    return English(Scale(bytes), true);
+}
+
 std::string LMSizeEstimate::Size() const {
+    return Size(English);
+}
+
+std::string
+LMSizeEstimate::Size(const std::function<std::string(const Scaled&, bool withUnit)>& write) const {
     if (!m_known)
         return {};
-    const std::string high = FormatBytes(static_cast<double>(m_high));
+    const Scaled high = Scale(static_cast<double>(m_high));
     if (IsExact())
-        return high;
-    const std::string low = FormatBytes(static_cast<double>(m_low));
-    const auto unitOf = [](const std::string& text) { return text.substr(text.find(' ')); };
-    if (unitOf(low) == unitOf(high))
-        return low.substr(0, low.find(' ')) + "\u2013" + high;
-    return low + "\u2013" + high;
+        return write(high, true);
+    const Scaled low = Scale(static_cast<double>(m_low));
+    return write(low, low.unit != high.unit) + "\u2013" + write(high, true);
 }
 
 std::string LMSizeEstimate::Describe() const {

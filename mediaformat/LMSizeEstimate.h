@@ -5,6 +5,7 @@
 #include "LMMediaFormatExport.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -65,6 +66,9 @@ public:
         int decimals = 0;
     };
     static Scaled Scale(double bytes);
+    // Size() with each figure written by write: with its unit, or without it
+    // (the lower end of a range whose ends share a unit), for another language.
+    std::string Size(const std::function<std::string(const Scaled&, bool withUnit)>& write) const;
 
 private:
     bool m_known = false;

@@ -194,13 +194,19 @@ def row_named(list_accessible, name):
                                  None), f"a row named {name!r} in {list_accessible.name!r}")
 
 
-class PopupOverAtSpiTest(unittest.TestCase):
-    # Each test has a host of its own, over settings of its own.
+class HostTestCase(unittest.TestCase):
+    """Each test has a host of its own, over settings of its own."""
+
+    host_options = ()
+
     def setUp(self):
-        self.host = Host(HOST)
+        self.host = Host(HOST, *self.host_options)
         self.addCleanup(self.host.stop)
         self.host.next_line("ready")
         self.popup = self.host.popup()
+
+
+class PopupOverAtSpiTest(HostTestCase):
 
     def test_the_popup_is_a_dialog_named_after_its_title(self):
         self.assertEqual(self.popup.getRole(), pyatspi.ROLE_DIALOG)
@@ -335,12 +341,8 @@ class PopupOverAtSpiTest(unittest.TestCase):
         self.assertEqual(self.host.next_line("recent:").split()[-1], "0")
 
 
-class UnavailablePresetOverAtSpiTest(unittest.TestCase):
-    def setUp(self):
-        self.host = Host(HOST, "--ffmpeg", FAKE_FFMPEG)
-        self.addCleanup(self.host.stop)
-        self.host.next_line("ready")
-        self.popup = self.host.popup()
+class UnavailablePresetOverAtSpiTest(HostTestCase):
+    host_options = ("--ffmpeg", FAKE_FFMPEG)
 
     def test_a_preset_this_ffmpeg_cannot_run_says_why_and_what_to_pick_instead(self):
         select_tab(self.popup, "Video")
